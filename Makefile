@@ -1,0 +1,35 @@
+# The two set-up commands are `make run` and `make test`; everything else here serves them.
+BUILD_DIR ?= build
+ASAN_DIR ?= build-sanitize
+JOBS ?= 2
+BUILD_TYPE ?= RelWithDebInfo
+CMAKE_ARGS ?=
+
+.PHONY: run test test-sanitize deps build build-sanitize format clean
+
+run: build
+	$(BUILD_DIR)/bin/velto
+
+test: build
+	cd $(BUILD_DIR) && ctest --output-on-failure -j$(JOBS)
+
+# The same suite, compiled with AddressSanitizer and UndefinedBehaviorSanitizer.
+test-sanitize: build-sanitize
+	cd $(ASAN_DIR) && ctest --output-on-failure -j$(JOBS)
+
+deps:
+	@bash cmake/install-deps.sh
+
+build: deps
+	@test -f $(BUILD_DIR)/CMakeCache.txt || cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) $(CMAKE_ARGS)
+	cmake --build $(BUILD_DIR) -j$(JOBS)
+
+build-sanitize: deps
+	@test -f $(ASAN_DIR)/CMakeCache.txt || cmake -S . -B $(ASAN_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DVELTO_SANITIZE=ON $(CMAKE_ARGS)
+	cmake --build $(ASAN_DIR) -j$(JOBS)
+
+format:
+	git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+clean:
+	rm -rf $(BUILD_DIR) $(ASAN_DIR)

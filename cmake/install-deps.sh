@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs the Debian packages listed in debian-packages.txt that are missing.
+# Does no apt work at all when everything is present.
+set -euo pipefail
+
+list="$(dirname "$0")/debian-packages.txt"
+mapfile -t wanted < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$list" | tr -d '[:space:]' | sed '/^$/d')
+[ -n "${VELTO_EXTRA_PACKAGES:-}" ] && read -r -a extra <<<"$VELTO_EXTRA_PACKAGES" && wanted+=("${extra[@]}")
+
+missing=()
+for pkg in "${wanted[@]}"; do
+    status=$(dpkg-query -W -f='${db:Status-Status}' "$pkg" 2>/dev/null || true)
+    [ "$status" = "installed" ] || missing+=("$pkg")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+if [ "$(id -u)" -eq 0 ]; then
+    as_root=()
+elif command -v sudo >/dev/null 2>&1 && { sudo -n true 2>/dev/null || [ -t 0 ]; }; then
+    as_root=(sudo)
+else
+    echo "velto: missing Debian packages (${missing[*]}); install them as root: apt-get install ${missing[*]}" >&2
+    exit 1
+fi
+
+echo "velto: installing ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+# A stale or empty package index is the usual reason an install fails on a fresh machine.
+if ! "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null 2>&1; then
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi

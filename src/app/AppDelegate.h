@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+namespace velto {
+
+class LaunchAtLoginService;
+class SettingsFileStore;
+class SettingsManager;
+
+// The composition root: builds every long-lived component in order, hands each its collaborators and owns
+// them for the life of the process.
+class AppDelegate final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit AppDelegate(QObject* parent = nullptr);
+    ~AppDelegate() override;
+
+    void applicationDidFinishLaunching();
+
+    [[nodiscard]] SettingsManager* settingsManager() const { return m_settingsManager; }
+
+private:
+    std::unique_ptr<SettingsFileStore> m_userDefaults;
+    std::unique_ptr<LaunchAtLoginService> m_launchAtLoginService;
+    SettingsManager* m_settingsManager = nullptr;
+};
+
+} // namespace velto

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace velto {
+
+// The session's facility for starting Velto at login. Main thread; may touch the file system.
+class LoginItemRegistering {
+public:
+    virtual ~LoginItemRegistering() = default;
+    // Registers or unregisters Velto. Gives the description of what went wrong, or nothing on success.
+    [[nodiscard]] virtual std::optional<QString> setRegistered(bool registered) = 0;
+};
+
+} // namespace velto

@@ -1,0 +1,81 @@
+#include "XdgAutostartEntry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+namespace {
+
+// An Exec argument in double quotes with ", `, $ and \ escaped, then escaped again as a desktop-entry
+// string (where \ itself is special), and % doubled because it introduces field codes.
+QString quotedExecArgument(const QString& argument)
+{
+    QString quoted;
+    for (const QChar c : argument) {
+        if (c == u'"' || c == u'`' || c == u'$' || c == u'\\')
+            quoted += u'\\';
+        quoted += c;
+    }
+    quoted.replace(u"\\"_s, u"\\\\"_s);
+    quoted.replace(u"%"_s, u"%%"_s);
+    return u'"' + quoted + u'"';
+}
+
+} // namespace
+
+XdgAutostartEntry::XdgAutostartEntry(QString executablePath, QString autostartDirectory)
+    : m_executablePath(std::move(executablePath))
+    , m_autostartDirectory(std::move(autostartDirectory))
+{
+}
+
+QString XdgAutostartEntry::defaultDirectory()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/autostart"_s;
+}
+
+QString XdgAutostartEntry::entryPath() const { return m_autostartDirectory + u"/velto.desktop"_s; }
+
+QByteArray XdgAutostartEntry::entryContents() const
+{
+    const QString text = u"[Desktop Entry]\n"
+                         u"Type=Application\n"
+                         u"Name=Velto\n"
+                         u"Comment=Reminds you to take breaks\n"
+                         u"Exec="_s
+                         + quotedExecArgument(m_executablePath)
+                         + u"\n"
+                           u"Icon=velto\n"
+                           u"Terminal=false\n"
+                           u"Categories=Utility;\n"
+                           u"X-GNOME-Autostart-enabled=true\n"_s;
+    return text.toUtf8();
+}
+
+std::optional<QString> XdgAutostartEntry::setRegistered(bool registered)
+{
+    const QString path = entryPath();
+    if (!registered) {
+        QFile entry(path);
+        if (!entry.exists())
+            return u"No autostart entry at %1"_s.arg(path);
+        if (!entry.remove())
+            return u"Could not remove %1: %2"_s.arg(path, entry.errorString());
+        return std::nullopt;
+    }
+    if (!QDir().mkpath(m_autostartDirectory))
+        return u"Could not create the autostart folder %1"_s.arg(m_autostartDirectory);
+    QSaveFile entry(path);
+    if (!entry.open(QIODevice::WriteOnly))
+        return u"Could not write %1: %2"_s.arg(path, entry.errorString());
+    entry.write(entryContents());
+    if (!entry.commit())
+        return u"Could not write %1: %2"_s.arg(path, entry.errorString());
+    return std::nullopt;
+}
+
+} // namespace velto

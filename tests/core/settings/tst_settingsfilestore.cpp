@@ -1,0 +1,150 @@
+#include "settings/SettingsFileStore.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+class TestSettingsFileStore : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        // A folder of its own per case: QSettings caches files by path across instances.
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_dir->isValid());
+    }
+    void valuesKeepTheirKindAcrossARestart();
+    void handEditedAndDamagedLines();
+    void binaryJunkReadsAsNothingUseful();
+    void unreadableOrUnwritableFileKeepsValuesInMemory();
+    void defaultPathFollowsXdgConfigHome();
+
+private:
+    QString path(const QString& name = u"velto.ini"_s) const { return m_dir->filePath(name); }
+    void writeFile(const QByteArray& contents) const
+    {
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart()
+{
+    const QByteArray record = R"({"isEnabled":true,"activeDays":[1,2],"note":"a=b # c"})";
+    {
+        SettingsFileStore store(path());
+        store.write(u"isEnabled"_s, false);
+        store.write(u"flagAsText"_s, u"true"_s);
+        store.write(u"breakPresetSelection"_s, u"deepFocus"_s);
+        store.write(u"schedule"_s, record);
+        store.write(u"pretty"_s, QByteArray("{\n  \"a\": 1\n}"));
+        store.write(u"dailyBreakCount"_s, 7);
+        store.write(u"fraction"_s, 0.1);
+        store.write(u"text"_s, u"quote \" backslash \\ newline \n end"_s);
+        store.write(u"gone"_s, true);
+        store.remove(u"gone"_s);
+        QCOMPARE(store.read(u"gone"_s), QVariant());
+    }
+    const QByteArray text = [this] {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }();
+    QVERIFY2(text.contains("isEnabled=false\n"), text.constData());
+    QVERIFY2(text.contains("breakPresetSelection=\"deepFocus\"\n"), text.constData());
+    QVERIFY2(text.contains(QByteArray("schedule=" + record + "\n")), text.constData());
+
+    QVERIFY2(text.contains("pretty={\"a\":1}\n"), text.constData());
+
+    // QSettings keeps a process-wide cache of the file, so parse the text itself as the next start would.
+    QBuffer buffer;
+    buffer.setData(text);
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    QSettings::SettingsMap map;
+    QVERIFY(SettingsFileStore::readTypedIni(buffer, map));
+    QCOMPARE(map.value(u"isEnabled"_s).typeId(), QMetaType::Bool);
+    QCOMPARE(map.value(u"isEnabled"_s).toBool(), false);
+    QCOMPARE(map.value(u"flagAsText"_s).typeId(), QMetaType::QString);
+    QCOMPARE(map.value(u"breakPresetSelection"_s), QVariant(u"deepFocus"_s));
+    QCOMPARE(map.value(u"schedule"_s).typeId(), QMetaType::QByteArray);
+    QCOMPARE(map.value(u"schedule"_s).toByteArray(), record);
+    QCOMPARE(map.value(u"dailyBreakCount"_s).toLongLong(), 7);
+    QCOMPARE(map.value(u"fraction"_s).toDouble(), 0.1);
+    QCOMPARE(map.value(u"text"_s).toString(), u"quote \" backslash \\ newline \n end"_s);
+    QVERIFY(!map.contains(u"gone"_s));
+}
+
+void TestSettingsFileStore::handEditedAndDamagedLines()
+{
+    writeFile("; a comment\n"
+              "# another\n"
+              "[General]\n"
+              "isEnabled = yes\n"
+              "showTimerInMenuBar=\"false\"\n"
+              "launchAtLogin=false\n"
+              "breakConfiguration={\"workInterval\":12\n"
+              "no equals sign here\n"
+              "=orphan value\n"
+              "empty=\n"
+              "nothing=null\n"
+              "[Other]\n"
+              "key=1\n");
+    const SettingsFileStore store(path());
+    QCOMPARE(store.read(u"isEnabled"_s), QVariant(u"yes"_s));
+    QCOMPARE(store.read(u"showTimerInMenuBar"_s), QVariant(u"false"_s));
+    QCOMPARE(store.read(u"launchAtLogin"_s), QVariant(false));
+    // A truncated record is no record: it reads as text, which the settings ignore.
+    QCOMPARE(store.read(u"breakConfiguration"_s).typeId(), QMetaType::QString);
+    QCOMPARE(store.read(u"empty"_s), QVariant(QString()));
+    QCOMPARE(store.read(u"nothing"_s), QVariant());
+    QCOMPARE(store.read(u"Other/key"_s).toInt(), 1);
+}
+
+void TestSettingsFileStore::binaryJunkReadsAsNothingUseful()
+{
+    QByteArray junk;
+    for (int i = 0; i < 4096; ++i)
+        junk.append(static_cast<char>((i * 7919) % 256));
+    writeFile(junk);
+    SettingsFileStore store(path());
+    QCOMPARE(store.read(u"isEnabled"_s).typeId() == QMetaType::Bool, false);
+    store.write(u"isEnabled"_s, true);
+    store.sync();
+    QCOMPARE(SettingsFileStore(path()).read(u"isEnabled"_s), QVariant(true));
+}
+
+void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory()
+{
+    // A folder where the file should be cannot be read or written, whoever runs the test.
+    QVERIFY(QDir(m_dir->path()).mkpath(u"folder.ini"_s));
+    // A file where the folder should be cannot be created at all.
+    writeFile("isEnabled=false\n");
+    for (const QString& bad : {path(u"folder.ini"_s), path(u"velto.ini/inside.ini"_s)}) {
+        SettingsFileStore store(bad);
+        QCOMPARE(store.read(u"isEnabled"_s), QVariant());
+        store.write(u"isEnabled"_s, false);
+        store.write(u"schedule"_s, QByteArray("{}"));
+        store.sync();
+        QCOMPARE(store.read(u"isEnabled"_s), QVariant(false));
+        QCOMPARE(store.read(u"schedule"_s), QVariant(QByteArray("{}")));
+    }
+    QVERIFY(QFileInfo(path(u"folder.ini"_s)).isDir());
+}
+
+void TestSettingsFileStore::defaultPathFollowsXdgConfigHome()
+{
+    const QByteArray saved = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", m_dir->path().toUtf8());
+    QCOMPARE(SettingsFileStore::defaultFilePath(), m_dir->path() + u"/velto/velto.ini"_s);
+    qputenv("XDG_CONFIG_HOME", saved);
+}
+
+QTEST_GUILESS_MAIN(TestSettingsFileStore)
+#include "tst_settingsfilestore.moc"

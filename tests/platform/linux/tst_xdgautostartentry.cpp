@@ -1,0 +1,110 @@
+#include "LaunchAtLoginService.h"
+#include "XdgAutostartEntry.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+class TestXdgAutostartEntry : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_dir->isValid());
+    }
+    void enablingWritesAnEntryThatStartsTheExecutable();
+    void execLineSurvivesAwkwardPaths();
+    void failuresAreDescribed();
+    void defaultFolderFollowsXdgConfigHome();
+    void theServicePrintsTheFailureOnStandardOutput();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void TestXdgAutostartEntry::enablingWritesAnEntryThatStartsTheExecutable()
+{
+    const QString folder = m_dir->filePath(u"config/autostart"_s);
+    XdgAutostartEntry entry(u"/usr/bin/velto"_s, folder);
+    QCOMPARE(entry.entryPath(), folder + u"/velto.desktop"_s);
+
+    QCOMPARE(entry.setRegistered(true), std::nullopt); // creates the folder too
+    QCOMPARE(entry.setRegistered(true), std::nullopt); // and overwrites quietly
+    QFile file(entry.entryPath());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    QCOMPARE(lines.first(), "[Desktop Entry]");
+    for (const char* line : {"Type=Application", "Name=Velto", "Exec=\"/usr/bin/velto\"", "X-GNOME-Autostart-enabled=true"})
+        QVERIFY2(lines.contains(line), line);
+
+    QCOMPARE(entry.setRegistered(false), std::nullopt);
+    QVERIFY(!QFile::exists(entry.entryPath()));
+}
+
+void TestXdgAutostartEntry::execLineSurvivesAwkwardPaths()
+{
+    XdgAutostartEntry entry(u"/opt/My Apps/50%/ve\"lto$x\\bin"_s, m_dir->path());
+    const QByteArray contents = entry.entryContents();
+    QVERIFY2(contents.contains("Exec=\"/opt/My Apps/50%%/ve\\\\\"lto\\\\$x\\\\\\\\bin\"\n"), contents.constData());
+}
+
+void TestXdgAutostartEntry::failuresAreDescribed()
+{
+    XdgAutostartEntry entry(u"/usr/bin/velto"_s, m_dir->path());
+    const std::optional<QString> missing = entry.setRegistered(false);
+    QVERIFY(missing);
+    QVERIFY2(missing->contains(entry.entryPath()), qPrintable(*missing));
+
+    // A file where the autostart folder should be: the folder cannot be made, whoever runs the test.
+    QFile blocker(m_dir->filePath(u"autostart"_s));
+    QVERIFY(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    XdgAutostartEntry blocked(u"/usr/bin/velto"_s, blocker.fileName());
+    const std::optional<QString> error = blocked.setRegistered(true);
+    QVERIFY(error);
+    QVERIFY2(error->contains(blocker.fileName()), qPrintable(*error));
+}
+
+void TestXdgAutostartEntry::defaultFolderFollowsXdgConfigHome()
+{
+    const QByteArray saved = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", m_dir->path().toUtf8());
+    QCOMPARE(XdgAutostartEntry::defaultDirectory(), m_dir->path() + u"/autostart"_s);
+    qputenv("XDG_CONFIG_HOME", saved);
+}
+
+void TestXdgAutostartEntry::theServicePrintsTheFailureOnStandardOutput()
+{
+    // Run as a child so the real standard output can be read; the child has no test-suite marker.
+    if (qEnvironmentVariableIsSet("VELTO_AUTOSTART_CHILD")) {
+        LaunchAtLoginService service(std::make_unique<XdgAutostartEntry>(u"/usr/bin/velto"_s, m_dir->path()));
+        service.setEnabled(false);
+        return;
+    }
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : {u"VELTO_TEST_SUITE"_s, u"CI"_s, u"GITHUB_ACTIONS"_s, u"GITHUB_WORKFLOW"_s})
+        environment.remove(name);
+    environment.insert(u"VELTO_AUTOSTART_CHILD"_s, u"1"_s);
+    child.setProcessEnvironment(environment);
+    child.start(QCoreApplication::applicationFilePath(),
+                {u"-silent"_s, u"theServicePrintsTheFailureOnStandardOutput"_s});
+    QVERIFY(child.waitForFinished(30000));
+    const QList<QByteArray> lines = child.readAllStandardOutput().split('\n');
+    QStringList found;
+    for (const QByteArray& line : lines) {
+        if (line.startsWith("Failed to update launch at login: "))
+            found.append(QString::fromUtf8(line));
+    }
+    QCOMPARE(found.size(), 1);
+    QVERIFY2(found.first().contains(u"velto.desktop"_s), qPrintable(found.first()));
+}
+
+QTEST_GUILESS_MAIN(TestXdgAutostartEntry)
+#include "tst_xdgautostartentry.moc"

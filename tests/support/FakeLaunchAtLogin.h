@@ -1,0 +1,13 @@
+#pragma once
+
+#include "settings/LaunchAtLoginControlling.h"
+
+#include <QList>
+
+// Records every request to apply the launch-at-login choice.
+class FakeLaunchAtLogin final : public velto::LaunchAtLoginControlling {
+public:
+    void setEnabled(bool enabled) override { calls.append(enabled); }
+
+    QList<bool> calls;
+};
