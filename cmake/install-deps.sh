@@ -4,7 +4,7 @@
 set -euo pipefail
 
 list="$(dirname "$0")/debian-packages.txt"
-mapfile -t wanted < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$list" | tr -d '[:space:]' | sed '/^$/d')
+mapfile -t wanted < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$list")
 [ -n "${VELTO_EXTRA_PACKAGES:-}" ] && read -r -a extra <<<"$VELTO_EXTRA_PACKAGES" && wanted+=("${extra[@]}")
 
 missing=()
