@@ -1,7 +1,7 @@
 # Warnings, Qt hygiene and the optional sanitizer build, applied to every target.
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align
-                    -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough)
+                    -Woverloaded-virtual -Wimplicit-fallthrough)
 
 add_compile_definitions(
     QT_NO_KEYWORDS

@@ -9,8 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace velto {
 namespace {
 
-std::optional<int> component(JsonReader& reader, QStringView key)
-{
+std::optional<int> component(JsonReader& reader, QStringView key) {
     const std::optional<qint64> value = reader.optionalInteger(key);
     if (!value)
         return std::nullopt;
@@ -23,8 +22,7 @@ std::optional<int> component(JsonReader& reader, QStringView key)
 
 } // namespace
 
-QJsonObject TimeOfDay::toJson() const
-{
+QJsonObject TimeOfDay::toJson() const {
     QJsonObject object;
     if (hour)
         object.insert(u"hour"_s, *hour);
@@ -33,8 +31,7 @@ QJsonObject TimeOfDay::toJson() const
     return object;
 }
 
-std::optional<TimeOfDay> TimeOfDay::fromJson(const QJsonObject& object)
-{
+std::optional<TimeOfDay> TimeOfDay::fromJson(const QJsonObject& object) {
     JsonReader reader(object);
     TimeOfDay time;
     time.hour = component(reader, u"hour");
@@ -44,11 +41,13 @@ std::optional<TimeOfDay> TimeOfDay::fromJson(const QJsonObject& object)
     return time;
 }
 
-bool Schedule::isWithinOfficeHours(const QDateTime& moment, const QTimeZone& zone) const
-{
+bool Schedule::isWithinOfficeHours(const QDateTime& moment, const QTimeZone& zone) const {
+    return isWithinOfficeHours(moment.toTimeZone(zone));
+}
+
+bool Schedule::isWithinOfficeHours(const QDateTime& local) const {
     if (!isEnabled)
         return true;
-    const QDateTime local = moment.toTimeZone(zone);
     if (!local.isValid())
         return false;
     // Qt counts Monday as 1 and Sunday as 7; Weekday counts Sunday as 1.
@@ -59,8 +58,7 @@ bool Schedule::isWithinOfficeHours(const QDateTime& moment, const QTimeZone& zon
     return startTime.minutesSinceMidnight() <= now && now <= endTime.minutesSinceMidnight();
 }
 
-QJsonObject Schedule::toJson() const
-{
+QJsonObject Schedule::toJson() const {
     QJsonArray days;
     for (const Weekday day : activeDays)
         days.append(rawValue(day));
@@ -72,8 +70,7 @@ QJsonObject Schedule::toJson() const
     };
 }
 
-std::optional<Schedule> Schedule::fromJson(const QJsonObject& object)
-{
+std::optional<Schedule> Schedule::fromJson(const QJsonObject& object) {
     JsonReader reader(object);
     Schedule schedule;
     schedule.isEnabled = reader.boolean(u"isEnabled");

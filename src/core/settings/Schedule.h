@@ -54,6 +54,8 @@ public:
     // Whole minutes, both ends inclusive, never wrapping past midnight: with an end before the start no
     // minute is inside. Always true while office hours are off.
     [[nodiscard]] bool isWithinOfficeHours(const QDateTime& moment, const QTimeZone& zone) const;
+    // The same, with the weekday and time read in the moment's own zone (local time for a local moment).
+    [[nodiscard]] bool isWithinOfficeHours(const QDateTime& moment) const;
 
     [[nodiscard]] QJsonObject toJson() const;
     [[nodiscard]] static std::optional<Schedule> fromJson(const QJsonObject& object);

@@ -10,22 +10,19 @@ using namespace Qt::Literals::StringLiterals;
 namespace velto {
 namespace {
 
-QSettings::Format typedIniFormat()
-{
+QSettings::Format typedIniFormat() {
     static const QSettings::Format format =
         QSettings::registerFormat(u"ini"_s, &SettingsFileStore::readTypedIni, &SettingsFileStore::writeTypedIni);
     return format;
 }
 
 // QJsonDocument only holds arrays and objects, so a single value travels inside a one-element array.
-QByteArray encodeScalar(const QJsonValue& value)
-{
+QByteArray encodeScalar(const QJsonValue& value) {
     const QByteArray wrapped = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return wrapped.mid(1, wrapped.size() - 2);
 }
 
-QByteArray encodeValue(const QVariant& value)
-{
+QByteArray encodeValue(const QVariant& value) {
     switch (value.typeId()) {
     case QMetaType::Bool:
         return value.toBool() ? "true" : "false";
@@ -39,12 +36,17 @@ QByteArray encodeValue(const QVariant& value)
     case QMetaType::Float:
     case QMetaType::Double:
         return encodeScalar(QJsonValue(value.toDouble()));
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList:
+        return QJsonDocument(QJsonArray::fromVariantList(value.toList())).toJson(QJsonDocument::Compact);
+    case QMetaType::QDateTime:
+        return encodeScalar(QJsonValue(value.toDateTime().toString(Qt::ISODateWithMs)));
     case QMetaType::QByteArray: {
-        // Data holds JSON records; keep them on one line and readable.
+        // Data holds JSON records; keep them on one line and readable. Only objects, as arrays read back as lists.
         const QByteArray data = value.toByteArray();
         QJsonParseError error;
         const QJsonDocument document = QJsonDocument::fromJson(data, &error);
-        if (error.error == QJsonParseError::NoError && (document.isObject() || document.isArray()))
+        if (error.error == QJsonParseError::NoError && document.isObject())
             return data.contains('\n') ? document.toJson(QJsonDocument::Compact) : data.trimmed();
         return encodeScalar(QJsonValue(QString::fromUtf8(data)));
     }
@@ -53,8 +55,7 @@ QByteArray encodeValue(const QVariant& value)
     }
 }
 
-QVariant decodeValue(const QByteArray& text)
-{
+QVariant decodeValue(const QByteArray& text) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson('[' + text + ']', &error);
     if (error.error != QJsonParseError::NoError || document.array().size() != 1)
@@ -68,6 +69,7 @@ QVariant decodeValue(const QByteArray& text)
     case QJsonValue::String:
         return value.toString();
     case QJsonValue::Array:
+        return value.toArray().toVariantList();
     case QJsonValue::Object:
         return text;
     case QJsonValue::Null:
@@ -79,8 +81,7 @@ QVariant decodeValue(const QByteArray& text)
 
 } // namespace
 
-bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& map)
-{
+bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& map) {
     QString section;
     while (!device.atEnd()) {
         const QByteArray line = device.readLine().trimmed();
@@ -104,8 +105,7 @@ bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& 
     return true;
 }
 
-bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::SettingsMap& map)
-{
+bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::SettingsMap& map) {
     QByteArray text = "# Velto settings: one JSON value per key.\n";
     for (auto it = map.cbegin(); it != map.cend(); ++it) {
         QByteArray key = it.key().toUtf8();
@@ -118,25 +118,32 @@ bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::Settin
 }
 
 SettingsFileStore::SettingsFileStore(const QString& filePath)
-    : m_settings(std::make_unique<QSettings>(filePath, typedIniFormat()))
-{
-}
+    : m_settings(std::make_unique<QSettings>(filePath, typedIniFormat())) {}
 
 SettingsFileStore::~SettingsFileStore() = default;
 
-QString SettingsFileStore::defaultFilePath()
-{
+QString SettingsFileStore::defaultFilePath() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/velto/velto.ini"_s;
 }
 
-QVariant SettingsFileStore::read(const QString& key) const { return m_settings->value(key); }
+QVariant SettingsFileStore::read(const QString& key) const {
+    return m_settings->value(key);
+}
 
-void SettingsFileStore::write(const QString& key, const QVariant& value) { m_settings->setValue(key, value); }
+void SettingsFileStore::write(const QString& key, const QVariant& value) {
+    m_settings->setValue(key, value);
+}
 
-void SettingsFileStore::remove(const QString& key) { m_settings->remove(key); }
+void SettingsFileStore::remove(const QString& key) {
+    m_settings->remove(key);
+}
 
-void SettingsFileStore::sync() { m_settings->sync(); }
+void SettingsFileStore::sync() {
+    m_settings->sync();
+}
 
-QString SettingsFileStore::filePath() const { return m_settings->fileName(); }
+QString SettingsFileStore::filePath() const {
+    return m_settings->fileName();
+}
 
 } // namespace velto

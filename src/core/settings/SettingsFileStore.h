@@ -10,8 +10,9 @@ namespace velto {
 
 // The user-defaults store as an INI file read and written through QSettings, in a typed form: every value is
 // one JSON value on its line (`isEnabled=true`, `breakPresetSelection="balanced"`, `schedule={...}`), so a
-// stored boolean stays distinguishable from a stored string. JSON objects and arrays read back as data, the
-// compact text of the record. A line that is not JSON reads as a plain string, as a hand edit would mean.
+// stored boolean stays distinguishable from a stored string. JSON objects read back as data (the compact text
+// of a record), arrays as lists, moments are written as ISO 8601 text. A line that is not JSON reads as a
+// plain string, as a hand edit would mean.
 // An unreadable or corrupt file reads as empty; an unwritable one keeps the values in memory.
 class SettingsFileStore final : public UserDefaultsStore {
 public:

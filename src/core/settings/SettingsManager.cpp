@@ -2,6 +2,7 @@
 
 #include "JsonRecord.h"
 #include "LaunchAtLoginControlling.h"
+#include "Published.h"
 #include "UserDefaultsStore.h"
 
 namespace velto {
@@ -10,8 +11,7 @@ SettingsManager::SettingsManager(UserDefaultsStore& userDefaults, LaunchAtLoginC
                                  QObject* parent)
     : QObject(parent)
     , m_userDefaults(userDefaults)
-    , m_launchAtLoginService(launchAtLogin)
-{
+    , m_launchAtLoginService(launchAtLogin) {
     loadSettings();
     m_isLoading = false;
     // Re-applied at every start so the session's login item follows the stored choice.
@@ -19,36 +19,23 @@ SettingsManager::SettingsManager(UserDefaultsStore& userDefaults, LaunchAtLoginC
         m_launchAtLoginService->setEnabled(m_launchAtLogin);
 }
 
-template <typename T, typename Arg>
-void SettingsManager::assign(T& field, const T& value, void (SettingsManager::*changed)(Arg))
-{
-    const T newValue = value; // value may alias field
-    Q_EMIT objectWillChange();
-    field = newValue;
-    Q_EMIT(this->*changed)(newValue);
-}
-
-void SettingsManager::saveUnlessLoading()
-{
+void SettingsManager::saveUnlessLoading() {
     if (!m_isLoading)
         saveSettings();
 }
 
-void SettingsManager::setIsEnabled(bool value)
-{
-    assign(m_isEnabled, value, &SettingsManager::isEnabledChanged);
+void SettingsManager::setIsEnabled(bool value) {
+    publish(this, m_isEnabled, value, &SettingsManager::isEnabledChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setShowTimerInMenuBar(bool value)
-{
-    assign(m_showTimerInMenuBar, value, &SettingsManager::showTimerInMenuBarChanged);
+void SettingsManager::setShowTimerInMenuBar(bool value) {
+    publish(this, m_showTimerInMenuBar, value, &SettingsManager::showTimerInMenuBarChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setLaunchAtLogin(bool value)
-{
-    assign(m_launchAtLogin, value, &SettingsManager::launchAtLoginChanged);
+void SettingsManager::setLaunchAtLogin(bool value) {
+    publish(this, m_launchAtLogin, value, &SettingsManager::launchAtLoginChanged);
     if (m_isLoading)
         return;
     saveSettings();
@@ -56,9 +43,8 @@ void SettingsManager::setLaunchAtLogin(bool value)
         m_launchAtLoginService->setEnabled(value);
 }
 
-void SettingsManager::setBreakConfiguration(const BreakConfiguration& value)
-{
-    assign(m_breakConfiguration, value, &SettingsManager::breakConfigurationChanged);
+void SettingsManager::setBreakConfiguration(const BreakConfiguration& value) {
+    publish(this, m_breakConfiguration, value, &SettingsManager::breakConfigurationChanged);
     if (m_isLoading)
         return;
     if (!m_isApplyingBreakPreset)
@@ -66,53 +52,45 @@ void SettingsManager::setBreakConfiguration(const BreakConfiguration& value)
     saveSettings();
 }
 
-void SettingsManager::setBreakPresetSelection(BreakPresetKind value)
-{
-    assign(m_breakPresetSelection, value, &SettingsManager::breakPresetSelectionChanged);
+void SettingsManager::setBreakPresetSelection(BreakPresetKind value) {
+    publish(this, m_breakPresetSelection, value, &SettingsManager::breakPresetSelectionChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setSchedule(const Schedule& value)
-{
-    assign(m_schedule, value, &SettingsManager::scheduleChanged);
+void SettingsManager::setSchedule(const Schedule& value) {
+    publish(this, m_schedule, value, &SettingsManager::scheduleChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setSmartPauseSettings(const SmartPauseSettings& value)
-{
-    assign(m_smartPauseSettings, value, &SettingsManager::smartPauseSettingsChanged);
+void SettingsManager::setSmartPauseSettings(const SmartPauseSettings& value) {
+    publish(this, m_smartPauseSettings, value, &SettingsManager::smartPauseSettingsChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setNotificationSettings(const NotificationSettings& value)
-{
-    assign(m_notificationSettings, value, &SettingsManager::notificationSettingsChanged);
+void SettingsManager::setNotificationSettings(const NotificationSettings& value) {
+    publish(this, m_notificationSettings, value, &SettingsManager::notificationSettingsChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setBreakAppearance(const BreakAppearance& value)
-{
-    assign(m_breakAppearance, value, &SettingsManager::breakAppearanceChanged);
+void SettingsManager::setBreakAppearance(const BreakAppearance& value) {
+    publish(this, m_breakAppearance, value, &SettingsManager::breakAppearanceChanged);
     saveUnlessLoading();
 }
 
-bool SettingsManager::readBoolean(QStringView key) const
-{
+bool SettingsManager::readBoolean(QStringView key) const {
     const QVariant stored = m_userDefaults.read(key.toString());
     return stored.typeId() == QMetaType::Bool ? stored.toBool() : true;
 }
 
 template <typename Record>
-std::optional<Record> SettingsManager::readRecord(QStringView key) const
-{
+std::optional<Record> SettingsManager::readRecord(QStringView key) const {
     const QVariant stored = m_userDefaults.read(key.toString());
     if (stored.typeId() != QMetaType::QByteArray)
         return std::nullopt;
     return decodeRecord<Record>(stored.toByteArray());
 }
 
-void SettingsManager::loadSettings()
-{
+void SettingsManager::loadSettings() {
     setIsEnabled(readBoolean(SettingsKeys::isEnabled));
     setShowTimerInMenuBar(readBoolean(SettingsKeys::showTimerInMenuBar));
     setLaunchAtLogin(readBoolean(SettingsKeys::launchAtLogin));
@@ -121,9 +99,8 @@ void SettingsManager::loadSettings()
         setBreakConfiguration(*configuration);
 
     const QVariant selection = m_userDefaults.read(SettingsKeys::breakPresetSelection.toString());
-    const std::optional<BreakPresetKind> storedPreset = selection.typeId() == QMetaType::QString
-                                                            ? fromRawValue<BreakPresetKind>(selection.toString())
-                                                            : std::nullopt;
+    const std::optional<BreakPresetKind> storedPreset =
+        selection.typeId() == QMetaType::QString ? fromRawValue<BreakPresetKind>(selection.toString()) : std::nullopt;
     if (storedPreset)
         setBreakPresetSelection(*storedPreset);
     else
@@ -143,8 +120,7 @@ void SettingsManager::loadSettings()
     captureBreakBehaviorBaseline();
 }
 
-void SettingsManager::saveSettings()
-{
+void SettingsManager::saveSettings() {
     m_userDefaults.write(SettingsKeys::isEnabled.toString(), m_isEnabled);
     m_userDefaults.write(SettingsKeys::showTimerInMenuBar.toString(), m_showTimerInMenuBar);
     m_userDefaults.write(SettingsKeys::launchAtLogin.toString(), m_launchAtLogin);
@@ -156,8 +132,7 @@ void SettingsManager::saveSettings()
     m_userDefaults.write(SettingsKeys::breakAppearance.toString(), encodeRecord(m_breakAppearance));
 }
 
-void SettingsManager::resetToDefaults()
-{
+void SettingsManager::resetToDefaults() {
     m_isApplyingBreakPreset = true;
     setIsEnabled(true);
     setShowTimerInMenuBar(true);
@@ -172,8 +147,7 @@ void SettingsManager::resetToDefaults()
     captureBreakBehaviorBaseline();
 }
 
-void SettingsManager::applyBreakPreset(BreakPresetKind preset)
-{
+void SettingsManager::applyBreakPreset(BreakPresetKind preset) {
     if (const std::optional<PresetTiming> timing = presetTiming(preset)) {
         applyPresetTiming(*timing);
         return;
@@ -182,8 +156,7 @@ void SettingsManager::applyBreakPreset(BreakPresetKind preset)
     m_breakBehaviorBaseline.reset();
 }
 
-void SettingsManager::applyPresetTiming(const PresetTiming& timing)
-{
+void SettingsManager::applyPresetTiming(const PresetTiming& timing) {
     m_isApplyingBreakPreset = true;
     setBreakConfiguration(BreakConfiguration::withTiming(timing));
     syncBreakPresetSelection();
@@ -191,26 +164,25 @@ void SettingsManager::applyPresetTiming(const PresetTiming& timing)
     m_isApplyingBreakPreset = false;
 }
 
-void SettingsManager::captureBreakBehaviorBaseline()
-{
+void SettingsManager::captureBreakBehaviorBaseline() {
     if (m_breakPresetSelection == BreakPresetKind::Custom)
         m_breakBehaviorBaseline.reset();
     else
         m_breakBehaviorBaseline = m_breakConfiguration.behaviorSnapshot();
 }
 
-void SettingsManager::syncBreakPresetSelection() { setBreakPresetSelection(m_breakConfiguration.matchingPreset()); }
+void SettingsManager::syncBreakPresetSelection() {
+    setBreakPresetSelection(m_breakConfiguration.matchingPreset());
+}
 
-void SettingsManager::validateBreakPresetSelection()
-{
+void SettingsManager::validateBreakPresetSelection() {
     if (m_breakPresetSelection == BreakPresetKind::Custom || m_breakConfiguration.timingMatches(m_breakPresetSelection))
         return;
     setBreakPresetSelection(BreakPresetKind::Custom);
     m_breakBehaviorBaseline.reset();
 }
 
-void SettingsManager::breakConfigurationDidChange()
-{
+void SettingsManager::breakConfigurationDidChange() {
     if (m_breakPresetSelection == BreakPresetKind::Custom) {
         m_breakBehaviorBaseline.reset();
         return;

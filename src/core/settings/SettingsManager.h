@@ -37,18 +37,18 @@ inline constexpr QStringView breakAppearance = u"breakAppearance";
 class SettingsManager final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isEnabled READ isEnabled WRITE setIsEnabled NOTIFY isEnabledChanged)
-    Q_PROPERTY(bool showTimerInMenuBar READ showTimerInMenuBar WRITE setShowTimerInMenuBar NOTIFY
-                   showTimerInMenuBarChanged)
+    Q_PROPERTY(
+        bool showTimerInMenuBar READ showTimerInMenuBar WRITE setShowTimerInMenuBar NOTIFY showTimerInMenuBarChanged)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
-    Q_PROPERTY(velto::BreakConfiguration breakConfiguration READ breakConfiguration WRITE setBreakConfiguration
-                   NOTIFY breakConfigurationChanged)
+    Q_PROPERTY(velto::BreakConfiguration breakConfiguration READ breakConfiguration WRITE setBreakConfiguration NOTIFY
+                   breakConfigurationChanged)
     Q_PROPERTY(velto::BreakPresetKind breakPresetSelection READ breakPresetSelection WRITE setBreakPresetSelection
                    NOTIFY breakPresetSelectionChanged)
     Q_PROPERTY(velto::Schedule schedule READ schedule WRITE setSchedule NOTIFY scheduleChanged)
-    Q_PROPERTY(velto::SmartPauseSettings smartPauseSettings READ smartPauseSettings WRITE setSmartPauseSettings
-                   NOTIFY smartPauseSettingsChanged)
-    Q_PROPERTY(velto::NotificationSettings notificationSettings READ notificationSettings WRITE
-                   setNotificationSettings NOTIFY notificationSettingsChanged)
+    Q_PROPERTY(velto::SmartPauseSettings smartPauseSettings READ smartPauseSettings WRITE setSmartPauseSettings NOTIFY
+                   smartPauseSettingsChanged)
+    Q_PROPERTY(velto::NotificationSettings notificationSettings READ notificationSettings WRITE setNotificationSettings
+                   NOTIFY notificationSettingsChanged)
     Q_PROPERTY(velto::BreakAppearance breakAppearance READ breakAppearance WRITE setBreakAppearance NOTIFY
                    breakAppearanceChanged)
 
@@ -101,8 +101,6 @@ Q_SIGNALS:
     void breakAppearanceChanged(const velto::BreakAppearance& breakAppearance);
 
 private:
-    template <typename T, typename Arg>
-    void assign(T& field, const T& value, void (SettingsManager::*changed)(Arg));
     void saveUnlessLoading();
 
     void loadSettings();

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeZone>
 
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
@@ -12,8 +13,7 @@ class TestSettingsFileStore : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
+    void init() {
         // A folder of its own per case: QSettings caches files by path across instances.
         m_dir = std::make_unique<QTemporaryDir>();
         QVERIFY(m_dir->isValid());
@@ -26,8 +26,7 @@ private Q_SLOTS:
 
 private:
     QString path(const QString& name = u"velto.ini"_s) const { return m_dir->filePath(name); }
-    void writeFile(const QByteArray& contents) const
-    {
+    void writeFile(const QByteArray& contents) const {
         QFile file(path());
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(contents);
@@ -36,8 +35,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
-void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart()
-{
+void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart() {
     const QByteArray record = R"({"isEnabled":true,"activeDays":[1,2],"note":"a=b # c"})";
     {
         SettingsFileStore store(path());
@@ -47,6 +45,8 @@ void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart()
         store.write(u"schedule"_s, record);
         store.write(u"pretty"_s, QByteArray("{\n  \"a\": 1\n}"));
         store.write(u"dailyBreakCount"_s, 7);
+        store.write(u"dailyBreakCountDate"_s, QVariantList{1, 2026, 11, 22});
+        store.write(u"moment"_s, QDateTime(QDate(2026, 11, 22), QTime(8, 30), QTimeZone::utc()));
         store.write(u"fraction"_s, 0.1);
         store.write(u"text"_s, u"quote \" backslash \\ newline \n end"_s);
         store.write(u"gone"_s, true);
@@ -77,12 +77,15 @@ void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart()
     QCOMPARE(map.value(u"schedule"_s).toByteArray(), record);
     QCOMPARE(map.value(u"dailyBreakCount"_s).toLongLong(), 7);
     QCOMPARE(map.value(u"fraction"_s).toDouble(), 0.1);
+    QCOMPARE(map.value(u"dailyBreakCountDate"_s).typeId(), QMetaType::QVariantList);
+    QCOMPARE(map.value(u"dailyBreakCountDate"_s).toList(), (QVariantList{1.0, 2026.0, 11.0, 22.0}));
+    QCOMPARE(QDateTime::fromString(map.value(u"moment"_s).toString(), Qt::ISODateWithMs),
+             QDateTime(QDate(2026, 11, 22), QTime(8, 30), QTimeZone::utc()));
     QCOMPARE(map.value(u"text"_s).toString(), u"quote \" backslash \\ newline \n end"_s);
     QVERIFY(!map.contains(u"gone"_s));
 }
 
-void TestSettingsFileStore::handEditedAndDamagedLines()
-{
+void TestSettingsFileStore::handEditedAndDamagedLines() {
     writeFile("; a comment\n"
               "# another\n"
               "[General]\n"
@@ -107,8 +110,7 @@ void TestSettingsFileStore::handEditedAndDamagedLines()
     QCOMPARE(store.read(u"Other/key"_s).toInt(), 1);
 }
 
-void TestSettingsFileStore::binaryJunkReadsAsNothingUseful()
-{
+void TestSettingsFileStore::binaryJunkReadsAsNothingUseful() {
     QByteArray junk;
     for (int i = 0; i < 4096; ++i)
         junk.append(static_cast<char>((i * 7919) % 256));
@@ -120,8 +122,7 @@ void TestSettingsFileStore::binaryJunkReadsAsNothingUseful()
     QCOMPARE(SettingsFileStore(path()).read(u"isEnabled"_s), QVariant(true));
 }
 
-void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory()
-{
+void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory() {
     // A folder where the file should be cannot be read or written, whoever runs the test.
     QVERIFY(QDir(m_dir->path()).mkpath(u"folder.ini"_s));
     // A file where the folder should be cannot be created at all.
@@ -138,8 +139,7 @@ void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory()
     QVERIFY(QFileInfo(path(u"folder.ini"_s)).isDir());
 }
 
-void TestSettingsFileStore::defaultPathFollowsXdgConfigHome()
-{
+void TestSettingsFileStore::defaultPathFollowsXdgConfigHome() {
     const QByteArray saved = qgetenv("XDG_CONFIG_HOME");
     qputenv("XDG_CONFIG_HOME", m_dir->path().toUtf8());
     QCOMPARE(SettingsFileStore::defaultFilePath(), m_dir->path() + u"/velto/velto.ini"_s);

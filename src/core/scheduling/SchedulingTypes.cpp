@@ -1,0 +1,26 @@
+#include "SchedulingTypes.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+
+QString PauseReason::displayText(const QDateTime& now) const {
+    switch (kind) {
+    case PauseKind::ManuallyPaused:
+        if (resumesAt && *resumesAt > now) {
+            const double secondsLeft = static_cast<double>(now.msecsTo(*resumesAt)) / 1000.0;
+            const qint64 minutes = static_cast<qint64>(secondsLeft / 60.0) + 1;
+            return u"Paused \u00B7 resumes in %1 min"_s.arg(minutes);
+        }
+        return u"Paused"_s;
+    case PauseKind::OutsideOfficeHours:
+        return u"Outside office hours"_s;
+    case PauseKind::AppDisabled:
+        return u"Breaks disabled"_s;
+    case PauseKind::SmartActivity:
+        return u"Smart Pause active"_s;
+    }
+    return {};
+}
+
+} // namespace velto
