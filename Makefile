@@ -5,7 +5,7 @@ JOBS ?= 2
 BUILD_TYPE ?= RelWithDebInfo
 CMAKE_ARGS ?=
 
-.PHONY: run test test-sanitize deps build build-sanitize format clean
+.PHONY: run test test-sanitize bench deps build build-sanitize format clean
 
 run: build
 	$(BUILD_DIR)/bin/velto
@@ -16,6 +16,10 @@ test: build
 # The same suite, compiled with AddressSanitizer and UndefinedBehaviorSanitizer.
 test-sanitize: build-sanitize
 	cd $(ASAN_DIR) && ctest --output-on-failure -j$(JOBS)
+
+# Measurements; they take a few minutes of real time.
+bench: build
+	$(BUILD_DIR)/bench/bench_timer_drift
 
 deps:
 	@bash cmake/install-deps.sh

@@ -6,6 +6,7 @@
 
 namespace velto {
 
+class BreakManager;
 class LaunchAtLoginService;
 class SettingsFileStore;
 class SettingsManager;
@@ -22,11 +23,13 @@ public:
     void applicationDidFinishLaunching();
 
     [[nodiscard]] SettingsManager* settingsManager() const { return m_settingsManager; }
+    [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }
 
 private:
     std::unique_ptr<SettingsFileStore> m_userDefaults;
     std::unique_ptr<LaunchAtLoginService> m_launchAtLoginService;
     SettingsManager* m_settingsManager = nullptr;
+    BreakManager* m_breakManager = nullptr;
 };
 
 } // namespace velto
