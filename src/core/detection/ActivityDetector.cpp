@@ -1,0 +1,198 @@
+#include "ActivityDetector.h"
+
+#include "DetectionRules.h"
+#include "KnownApplications.h"
+#include "Published.h"
+
+#include <QMetaObject>
+#include <QMutexLocker>
+#include <QTimer>
+#include <QWaitCondition>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+
+// One pass's wait for the main thread. The destructor finishes it too, so a pass never outwaits its detector.
+struct ActivityDetector::HandOver {
+    QMutex mutex;
+    QWaitCondition finishedCondition;
+    bool finished = false;
+
+    void finish() {
+        QMutexLocker lock(&mutex);
+        finished = true;
+        finishedCondition.wakeAll();
+    }
+
+    void wait() {
+        QMutexLocker lock(&mutex);
+        while (!finished)
+            finishedCondition.wait(&mutex);
+    }
+};
+
+ActivityDetector::ActivityDetector(DetectionProviders providers, QObject* parent)
+    : QObject(parent)
+    , m_providers(std::move(providers))
+    , m_worker(std::make_unique<QObject>()) {
+    Q_ASSERT(m_providers.isComplete());
+    m_detectionThread.setObjectName(u"com.velto.activityDetection"_s);
+    m_worker->moveToThread(&m_detectionThread);
+    m_detectionThread.start(QThread::LowPriority);
+}
+
+ActivityDetector::~ActivityDetector() {
+    stopMonitoring();
+    {
+        QMutexLocker lock(&m_sharedMutex);
+        m_shuttingDown = true;
+        if (m_pendingHandOver)
+            m_pendingHandOver->finish();
+    }
+    m_detectionThread.quit();
+    m_detectionThread.wait();
+    // Hand-overs still posted to this object are discarded with it.
+}
+
+void ActivityDetector::setSettings(const SmartPauseSettings& settings) {
+    QMutexLocker lock(&m_sharedMutex);
+    m_settings = settings;
+}
+
+void ActivityDetector::setIdleThreshold(double seconds) {
+    QMutexLocker lock(&m_sharedMutex);
+    m_idleThreshold = seconds;
+}
+
+// Timer and passes.
+
+void ActivityDetector::startMonitoring() {
+    if (m_detectionTimer != nullptr)
+        return;
+    m_detectionTimer = new QTimer(this);
+    m_detectionTimer->setInterval(detectionIntervalMilliseconds);
+    connect(m_detectionTimer, &QTimer::timeout, this, &ActivityDetector::queueDetectionPass);
+    m_detectionTimer->start();
+}
+
+void ActivityDetector::stopMonitoring() {
+    delete m_detectionTimer;
+    m_detectionTimer = nullptr;
+}
+
+void ActivityDetector::queueDetectionPass() {
+    // Queued events are never merged, so every fire gets its pass; the worker runs them one after another.
+    // The worker dies with this object and takes unrun passes with it.
+    QMetaObject::invokeMethod(
+        m_worker.get(), [this] { runDetectionPass(); }, Qt::QueuedConnection);
+}
+
+void ActivityDetector::runDetectionPass() {
+    SmartPauseSettings settings;
+    double idleThreshold = 0;
+    {
+        QMutexLocker lock(&m_sharedMutex);
+        if (m_shuttingDown)
+            return;
+        settings = m_settings;
+        idleThreshold = m_idleThreshold;
+    }
+    const DetectionSnapshot snapshot = DetectionRules::detectActivity(m_providers, settings, idleThreshold);
+
+    if (QThread::currentThread() == thread()) {
+        applySnapshot(snapshot);
+        return;
+    }
+    auto handOver = std::make_shared<HandOver>();
+    {
+        QMutexLocker lock(&m_sharedMutex);
+        if (m_shuttingDown)
+            return;
+        m_pendingHandOver = handOver;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, handOver, snapshot] {
+            applySnapshot(snapshot);
+            handOver->finish();
+        },
+        Qt::QueuedConnection);
+    handOver->wait();
+    QMutexLocker lock(&m_sharedMutex);
+    if (m_pendingHandOver == handOver)
+        m_pendingHandOver.reset();
+}
+
+void ActivityDetector::applySnapshot(const DetectionSnapshot& snapshot) {
+    publish(this, m_isInMeeting, snapshot.isInMeeting, &ActivityDetector::isInMeetingChanged);
+    publish(this, m_isWatchingVideo, snapshot.isWatchingVideo, &ActivityDetector::isWatchingVideoChanged);
+    publish(this, m_isScreenRecording, snapshot.isScreenRecording, &ActivityDetector::isScreenRecordingChanged);
+    publish(this, m_isInFullscreenGame, snapshot.isInFullscreenGame, &ActivityDetector::isInFullscreenGameChanged);
+    publish(this, m_isInDeepFocusApp, snapshot.isInDeepFocusApp, &ActivityDetector::isInDeepFocusAppChanged);
+    publish(this, m_isIdle, snapshot.isIdle, &ActivityDetector::isIdleChanged);
+
+    m_meetingPauseCamera = snapshot.meetingPauseCamera;
+    m_meetingPauseMicrophone = snapshot.meetingPauseMicrophone;
+    m_meetingPauseAppBundleIdentifier = snapshot.meetingPauseAppBundleIdentifier;
+    if (snapshot.activityDetectedAt)
+        m_lastActivityDetectedAt = snapshot.activityDetectedAt;
+}
+
+// What the scheduler and the menu read.
+
+bool ActivityDetector::isActivityDetected() const {
+    if (m_isInMeeting || m_isWatchingVideo || m_isScreenRecording || m_isInFullscreenGame || m_isInDeepFocusApp ||
+        m_isIdle)
+        return true;
+    if (!m_lastActivityDetectedAt)
+        return false;
+    // The cool-down is worked out on each read rather than timed, so its end shows at the reader's next look.
+    const double elapsed = static_cast<double>(m_lastActivityDetectedAt->msecsTo(m_providers.clock->now())) / 1000.0;
+    // A clock set back makes the elapsed time negative; that still counts as within the cool-down.
+    return elapsed < 0 || elapsed < m_settings.cooldownAfterActivity;
+}
+
+QString ActivityDetector::activityStatusText() const {
+    return status(true).text;
+}
+
+QString ActivityDetector::activityStatusSymbolName() const {
+    return status(false).symbolName;
+}
+
+ActivityDetector::Status ActivityDetector::status(bool withText) const {
+    if (m_isInMeeting) {
+        if (m_meetingPauseAppBundleIdentifier) {
+            if (const auto name = KnownApplications::meetingAppName(*m_meetingPauseAppBundleIdentifier))
+                return {u"In "_s + *name, u"person.wave.2"_s};
+            return {u"Meeting app active"_s, u"person.wave.2"_s};
+        }
+        if (m_meetingPauseCamera && m_meetingPauseMicrophone)
+            return {u"Camera and microphone in use"_s, u"video.fill"_s};
+        if (m_meetingPauseCamera)
+            return {u"Camera in use"_s, u"camera.fill"_s};
+        if (m_meetingPauseMicrophone)
+            return {u"Microphone in use"_s, u"mic.fill"_s};
+        return {u"Meeting activity detected"_s, u"person.wave.2"_s};
+    }
+    if (m_isWatchingVideo)
+        return {u"Watching video"_s, u"play.rectangle"_s};
+    if (m_isScreenRecording)
+        return {u"Recording screen"_s, u"record.circle"_s};
+    if (m_isInFullscreenGame)
+        return {u"Playing a game"_s, u"gamecontroller"_s};
+    if (m_isInDeepFocusApp)
+        // Worked out afresh on each read, from the applications running now.
+        return {withText ? DetectionRules::deepFocusStatusText(m_providers.workspace->runningApplications(),
+                                                               m_settings.deepFocusApps)
+                         : QString(),
+                u"scope"_s};
+    if (m_isIdle)
+        return {u"Away from desk"_s, u"moon"_s};
+    if (!m_lastActivityDetectedAt)
+        return {u"Smart Pause active"_s, u"pause.circle"_s};
+    return {u"Winding down\u2026"_s, u"hourglass"_s};
+}
+
+} // namespace velto
