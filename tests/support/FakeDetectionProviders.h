@@ -6,6 +6,7 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QSet>
+#include <QTimeZone>
 
 #include <atomic>
 #include <functional>
@@ -20,12 +21,15 @@ class Scripted {
 public:
     Scripted() = default;
     explicit Scripted(T value)
-        : m_value(std::move(value)) {}
-    void set(T value) {
+        : m_value(std::move(value))
+    {}
+    void set(T value)
+    {
         QMutexLocker lock(&m_mutex);
         m_value = std::move(value);
     }
-    [[nodiscard]] T get() const {
+    [[nodiscard]] T get() const
+    {
         QMutexLocker lock(&m_mutex);
         return m_value;
     }
@@ -43,7 +47,8 @@ public:
     Scripted<std::function<void()>> hook;
 
 protected:
-    void called() const {
+    void called() const
+    {
         ++m_calls;
         if (const auto run = hook.get())
             run();
@@ -55,7 +60,8 @@ private:
 
 class FakeWorkspace final : public velto::WorkspaceProviding, public FakeCalls {
 public:
-    [[nodiscard]] QList<velto::AppSnapshot> runningApplications() const override {
+    [[nodiscard]] QList<velto::AppSnapshot> runningApplications() const override
+    {
         called();
         return applications.get();
     }
@@ -64,7 +70,8 @@ public:
 
 class FakeWindowList final : public velto::WindowListProviding, public FakeCalls {
 public:
-    [[nodiscard]] QList<velto::WindowDescriptor> onScreenWindows() const override {
+    [[nodiscard]] QList<velto::WindowDescriptor> onScreenWindows() const override
+    {
         called();
         return windows.get();
     }
@@ -73,7 +80,8 @@ public:
 
 class FakeScreen final : public velto::ScreenProviding, public FakeCalls {
 public:
-    [[nodiscard]] QRectF mainScreenFrame() const override {
+    [[nodiscard]] QRectF mainScreenFrame() const override
+    {
         called();
         return frame.get();
     }
@@ -82,7 +90,8 @@ public:
 
 class FakeIdleTime final : public velto::IdleTimeProviding, public FakeCalls {
 public:
-    [[nodiscard]] double secondsSinceLastInput() const override {
+    [[nodiscard]] double secondsSinceLastInput() const override
+    {
         called();
         return seconds.get();
     }
@@ -91,11 +100,13 @@ public:
 
 class FakeCameraUsage final : public velto::CameraUsageProviding, public FakeCalls {
 public:
-    [[nodiscard]] bool isCameraInUse() const override {
+    [[nodiscard]] bool isCameraInUse() const override
+    {
         called();
         return !identifiers.get().isEmpty();
     }
-    [[nodiscard]] QStringList activeCameraIdentifiers() const override {
+    [[nodiscard]] QStringList activeCameraIdentifiers() const override
+    {
         ++identifierCalls;
         return identifiers.get();
     }
@@ -105,11 +116,13 @@ public:
 
 class FakeMicrophoneUsage final : public velto::MicrophoneUsageProviding, public FakeCalls {
 public:
-    [[nodiscard]] bool isMicrophoneInUse() const override {
+    [[nodiscard]] bool isMicrophoneInUse() const override
+    {
         called();
         return !identifiers.get().isEmpty();
     }
-    [[nodiscard]] QStringList activeMicrophoneIdentifiers() const override {
+    [[nodiscard]] QStringList activeMicrophoneIdentifiers() const override
+    {
         ++identifierCalls;
         return identifiers.get();
     }
@@ -119,7 +132,8 @@ public:
 
 class FakeVideoPlayback final : public velto::VideoPlaybackProviding, public FakeCalls {
 public:
-    [[nodiscard]] bool isPlaying(const QString& bundleIdentifier) const override {
+    [[nodiscard]] bool isPlaying(const QString& bundleIdentifier) const override
+    {
         called();
         {
             QMutexLocker lock(&m_mutex);
@@ -128,11 +142,13 @@ public:
         return playing.get().contains(bundleIdentifier);
     }
     // Every identity asked, in order, since the last reset.
-    [[nodiscard]] QStringList asked() const {
+    [[nodiscard]] QStringList asked() const
+    {
         QMutexLocker lock(&m_mutex);
         return m_asked;
     }
-    void resetAsked() {
+    void resetAsked()
+    {
         QMutexLocker lock(&m_mutex);
         m_asked.clear();
         resetCalls();
@@ -146,18 +162,20 @@ private:
 
 class FakeScreenRecordingState final : public velto::ScreenRecordingStateProviding, public FakeCalls {
 public:
-    [[nodiscard]] bool isScreenRecording(const QList<velto::AppSnapshot>& runningApplications) const override {
+    [[nodiscard]] bool isScreenRecording(const QList<velto::AppSnapshot>& runningApplications) const override
+    {
         called();
         lastApplications.set(runningApplications);
         return recording.get();
     }
     Scripted<bool> recording;
-    Scripted<QList<velto::AppSnapshot>> lastApplications;
+    mutable Scripted<QList<velto::AppSnapshot>> lastApplications;
 };
 
 class FakeAppCategory final : public velto::AppCategoryProviding, public FakeCalls {
 public:
-    [[nodiscard]] std::optional<QString> category(qint32 processIdentifier) const override {
+    [[nodiscard]] std::optional<QString> category(qint32 processIdentifier) const override
+    {
         called();
         const auto all = categories.get();
         const auto found = all.constFind(processIdentifier);
@@ -170,7 +188,8 @@ public:
 
 class FakeClock final : public velto::ClockProviding, public FakeCalls {
 public:
-    [[nodiscard]] QDateTime now() const override {
+    [[nodiscard]] QDateTime now() const override
+    {
         called();
         return time.get();
     }
@@ -181,7 +200,8 @@ public:
 // One of each fake. take() hands ownership to a detector; the pointers here stay valid while it lives.
 class FakeDetectionProviders {
 public:
-    FakeDetectionProviders() {
+    FakeDetectionProviders()
+    {
         m_owned.workspace.reset(workspace = new FakeWorkspace);
         m_owned.windowList.reset(windowList = new FakeWindowList);
         m_owned.screen.reset(screen = new FakeScreen);
@@ -214,6 +234,7 @@ private:
 };
 
 // Shorthand for a running application.
-inline velto::AppSnapshot runningApp(const QString& bundleIdentifier, qint32 processIdentifier, bool isActive = false) {
+inline velto::AppSnapshot runningApp(const QString& bundleIdentifier, qint32 processIdentifier, bool isActive = false)
+{
     return {bundleIdentifier, isActive, processIdentifier};
 }

@@ -19,13 +19,15 @@ struct ActivityDetector::HandOver {
     QWaitCondition finishedCondition;
     bool finished = false;
 
-    void finish() {
+    void finish()
+    {
         QMutexLocker lock(&mutex);
         finished = true;
         finishedCondition.wakeAll();
     }
 
-    void wait() {
+    void wait()
+    {
         QMutexLocker lock(&mutex);
         while (!finished)
             finishedCondition.wait(&mutex);
@@ -35,14 +37,16 @@ struct ActivityDetector::HandOver {
 ActivityDetector::ActivityDetector(DetectionProviders providers, QObject* parent)
     : QObject(parent)
     , m_providers(std::move(providers))
-    , m_worker(std::make_unique<QObject>()) {
+    , m_worker(std::make_unique<QObject>())
+{
     Q_ASSERT(m_providers.isComplete());
     m_detectionThread.setObjectName(u"com.velto.activityDetection"_s);
     m_worker->moveToThread(&m_detectionThread);
     m_detectionThread.start(QThread::LowPriority);
 }
 
-ActivityDetector::~ActivityDetector() {
+ActivityDetector::~ActivityDetector()
+{
     stopMonitoring();
     {
         QMutexLocker lock(&m_sharedMutex);
@@ -55,19 +59,22 @@ ActivityDetector::~ActivityDetector() {
     // Hand-overs still posted to this object are discarded with it.
 }
 
-void ActivityDetector::setSettings(const SmartPauseSettings& settings) {
+void ActivityDetector::setSettings(const SmartPauseSettings& settings)
+{
     QMutexLocker lock(&m_sharedMutex);
     m_settings = settings;
 }
 
-void ActivityDetector::setIdleThreshold(double seconds) {
+void ActivityDetector::setIdleThreshold(double seconds)
+{
     QMutexLocker lock(&m_sharedMutex);
     m_idleThreshold = seconds;
 }
 
 // Timer and passes.
 
-void ActivityDetector::startMonitoring() {
+void ActivityDetector::startMonitoring()
+{
     if (m_detectionTimer != nullptr)
         return;
     m_detectionTimer = new QTimer(this);
@@ -76,19 +83,22 @@ void ActivityDetector::startMonitoring() {
     m_detectionTimer->start();
 }
 
-void ActivityDetector::stopMonitoring() {
+void ActivityDetector::stopMonitoring()
+{
     delete m_detectionTimer;
     m_detectionTimer = nullptr;
 }
 
-void ActivityDetector::queueDetectionPass() {
+void ActivityDetector::queueDetectionPass()
+{
     // Queued events are never merged, so every fire gets its pass; the worker runs them one after another.
     // The worker dies with this object and takes unrun passes with it.
     QMetaObject::invokeMethod(
         m_worker.get(), [this] { runDetectionPass(); }, Qt::QueuedConnection);
 }
 
-void ActivityDetector::runDetectionPass() {
+void ActivityDetector::runDetectionPass()
+{
     SmartPauseSettings settings;
     double idleThreshold = 0;
     {
@@ -124,7 +134,8 @@ void ActivityDetector::runDetectionPass() {
         m_pendingHandOver.reset();
 }
 
-void ActivityDetector::applySnapshot(const DetectionSnapshot& snapshot) {
+void ActivityDetector::applySnapshot(const DetectionSnapshot& snapshot)
+{
     publish(this, m_isInMeeting, snapshot.isInMeeting, &ActivityDetector::isInMeetingChanged);
     publish(this, m_isWatchingVideo, snapshot.isWatchingVideo, &ActivityDetector::isWatchingVideoChanged);
     publish(this, m_isScreenRecording, snapshot.isScreenRecording, &ActivityDetector::isScreenRecordingChanged);
@@ -141,7 +152,8 @@ void ActivityDetector::applySnapshot(const DetectionSnapshot& snapshot) {
 
 // What the scheduler and the menu read.
 
-bool ActivityDetector::isActivityDetected() const {
+bool ActivityDetector::isActivityDetected() const
+{
     if (m_isInMeeting || m_isWatchingVideo || m_isScreenRecording || m_isInFullscreenGame || m_isInDeepFocusApp ||
         m_isIdle)
         return true;
@@ -153,15 +165,18 @@ bool ActivityDetector::isActivityDetected() const {
     return elapsed < 0 || elapsed < m_settings.cooldownAfterActivity;
 }
 
-QString ActivityDetector::activityStatusText() const {
+QString ActivityDetector::activityStatusText() const
+{
     return status(true).text;
 }
 
-QString ActivityDetector::activityStatusSymbolName() const {
+QString ActivityDetector::activityStatusSymbolName() const
+{
     return status(false).symbolName;
 }
 
-ActivityDetector::Status ActivityDetector::status(bool withText) const {
+ActivityDetector::Status ActivityDetector::status(bool withText) const
+{
     if (m_isInMeeting) {
         if (m_meetingPauseAppBundleIdentifier) {
             if (const auto name = KnownApplications::meetingAppName(*m_meetingPauseAppBundleIdentifier))

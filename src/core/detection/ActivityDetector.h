@@ -53,7 +53,8 @@ public:
     // What the last pass saw of a meeting; nothing latches them.
     [[nodiscard]] bool meetingPauseCamera() const { return m_meetingPauseCamera; }
     [[nodiscard]] bool meetingPauseMicrophone() const { return m_meetingPauseMicrophone; }
-    [[nodiscard]] std::optional<QString> meetingPauseAppBundleIdentifier() const {
+    [[nodiscard]] std::optional<QString> meetingPauseAppBundleIdentifier() const
+    {
         return m_meetingPauseAppBundleIdentifier;
     }
     // End of the last pass that found activity other than idleness; never cleared.

@@ -28,7 +28,8 @@ struct DetectionProviders {
     std::unique_ptr<AppCategoryProviding> appCategory;
     std::unique_ptr<ClockProviding> clock;
 
-    [[nodiscard]] bool isComplete() const {
+    [[nodiscard]] bool isComplete() const
+    {
         return workspace && windowList && screen && idleTime && camera && microphone && videoPlayback &&
                screenRecording && appCategory && clock;
     }

@@ -9,26 +9,30 @@ using namespace Qt::Literals::StringLiterals;
 namespace velto::DetectionRules {
 namespace {
 
-qsizetype frontmostIndex(const QList<AppSnapshot>& apps) {
+qsizetype frontmostIndex(const QList<AppSnapshot>& apps)
+{
     const auto found = std::find_if(apps.cbegin(), apps.cend(), [](const AppSnapshot& app) { return app.isActive; });
     return found == apps.cend() ? -1 : std::distance(apps.cbegin(), found);
 }
 
 // Asks for the identifiers only when the cheaper in-use test says there is something to filter.
-bool anyNotExcluded(bool inUse, const std::function<QStringList()>& identifiers, const QStringList& excluded) {
+bool anyNotExcluded(bool inUse, const std::function<QStringList()>& identifiers, const QStringList& excluded)
+{
     if (!inUse)
         return false;
     const QStringList active = identifiers();
     return std::any_of(active.cbegin(), active.cend(), [&](const QString& id) { return !excluded.contains(id); });
 }
 
-const DeepFocusApp* entryFor(const QString& bundleIdentifier, const QList<DeepFocusApp>& deepFocusApps) {
+const DeepFocusApp* entryFor(const QString& bundleIdentifier, const QList<DeepFocusApp>& deepFocusApps)
+{
     const auto found = std::find_if(deepFocusApps.cbegin(), deepFocusApps.cend(),
                                     [&](const DeepFocusApp& app) { return app.bundleIdentifier == bundleIdentifier; });
     return found == deepFocusApps.cend() ? nullptr : &*found;
 }
 
-const DeepFocusApp* firstRunningWhenOpenEntry(const QList<AppSnapshot>& apps, const QList<DeepFocusApp>& entries) {
+const DeepFocusApp* firstRunningWhenOpenEntry(const QList<AppSnapshot>& apps, const QList<DeepFocusApp>& entries)
+{
     for (const AppSnapshot& app : apps) {
         if (!app.bundleIdentifier)
             continue;
@@ -42,7 +46,8 @@ const DeepFocusApp* firstRunningWhenOpenEntry(const QList<AppSnapshot>& apps, co
 
 } // namespace
 
-std::optional<AppSnapshot> frontmostApplication(const QList<AppSnapshot>& runningApplications) {
+std::optional<AppSnapshot> frontmostApplication(const QList<AppSnapshot>& runningApplications)
+{
     const qsizetype index = frontmostIndex(runningApplications);
     if (index < 0)
         return std::nullopt;
@@ -50,7 +55,8 @@ std::optional<AppSnapshot> frontmostApplication(const QList<AppSnapshot>& runnin
 }
 
 MeetingEvidence detectMeeting(const QList<AppSnapshot>& runningApplications, const SmartPauseSettings& settings,
-                              const CameraUsageProviding& camera, const MicrophoneUsageProviding& microphone) {
+                              const CameraUsageProviding& camera, const MicrophoneUsageProviding& microphone)
+{
     MeetingEvidence evidence;
     evidence.camera = anyNotExcluded(
         camera.isCameraInUse(), [&] { return camera.activeCameraIdentifiers(); }, settings.excludedCameras);
@@ -75,7 +81,8 @@ MeetingEvidence detectMeeting(const QList<AppSnapshot>& runningApplications, con
 }
 
 bool detectVideoPlayback(const QList<AppSnapshot>& runningApplications, VideoDetectionMode mode,
-                         const VideoPlaybackProviding& videoPlayback) {
+                         const VideoPlaybackProviding& videoPlayback)
+{
     const QSet<QString>& players = KnownApplications::videoPlayerBundleIdentifiers();
     // Asking a player is slow, so front-only mode asks exactly the frontmost application, if it is a player.
     const qsizetype frontmost = frontmostIndex(runningApplications);
@@ -91,8 +98,8 @@ bool detectVideoPlayback(const QList<AppSnapshot>& runningApplications, VideoDet
     return false;
 }
 
-bool hasFullscreenWindow(qint32 processIdentifier, const ScreenProviding& screen,
-                         const WindowListProviding& windowList) {
+bool hasFullscreenWindow(qint32 processIdentifier, const ScreenProviding& screen, const WindowListProviding& windowList)
+{
     const QRectF frame = screen.mainScreenFrame();
     const QList<WindowDescriptor> windows = windowList.onScreenWindows();
     return std::any_of(windows.cbegin(), windows.cend(), [&](const WindowDescriptor& window) {
@@ -102,7 +109,8 @@ bool hasFullscreenWindow(qint32 processIdentifier, const ScreenProviding& screen
 }
 
 bool detectFullscreenGame(const std::optional<AppSnapshot>& frontmost, const AppCategoryProviding& appCategory,
-                          const ScreenProviding& screen, const WindowListProviding& windowList) {
+                          const ScreenProviding& screen, const WindowListProviding& windowList)
+{
     if (!frontmost || !frontmost->bundleIdentifier)
         return false;
     const std::optional<QString> category = appCategory.category(frontmost->processIdentifier);
@@ -113,7 +121,8 @@ bool detectFullscreenGame(const std::optional<AppSnapshot>& frontmost, const App
 
 bool detectDeepFocusApp(const QList<AppSnapshot>& runningApplications, const std::optional<AppSnapshot>& frontmost,
                         const QList<DeepFocusApp>& deepFocusApps, const ScreenProviding& screen,
-                        const WindowListProviding& windowList) {
+                        const WindowListProviding& windowList)
+{
     if (!frontmost || !frontmost->bundleIdentifier)
         return false;
     if (const DeepFocusApp* entry = entryFor(*frontmost->bundleIdentifier, deepFocusApps)) {
@@ -129,12 +138,14 @@ bool detectDeepFocusApp(const QList<AppSnapshot>& runningApplications, const std
     return firstRunningWhenOpenEntry(runningApplications, deepFocusApps) != nullptr;
 }
 
-bool detectIdle(double idleThreshold, const IdleTimeProviding& idleTime) {
+bool detectIdle(double idleThreshold, const IdleTimeProviding& idleTime)
+{
     return idleThreshold <= idleTime.secondsSinceLastInput();
 }
 
 DetectionSnapshot detectActivity(const DetectionProviders& providers, const SmartPauseSettings& settings,
-                                 double idleThreshold) {
+                                 double idleThreshold)
+{
     DetectionSnapshot snapshot;
     const bool needsApplications = settings.detectMeetings || settings.detectVideoPlayback ||
                                    settings.detectScreenRecording || settings.detectFullscreenGaming ||
@@ -173,7 +184,8 @@ DetectionSnapshot detectActivity(const DetectionProviders& providers, const Smar
     return snapshot;
 }
 
-QString deepFocusStatusText(const QList<AppSnapshot>& runningApplications, const QList<DeepFocusApp>& deepFocusApps) {
+QString deepFocusStatusText(const QList<AppSnapshot>& runningApplications, const QList<DeepFocusApp>& deepFocusApps)
+{
     const std::optional<AppSnapshot> frontmost = frontmostApplication(runningApplications);
     if (frontmost && frontmost->bundleIdentifier) {
         if (const DeepFocusApp* entry = entryFor(*frontmost->bundleIdentifier, deepFocusApps))

@@ -205,7 +205,8 @@ constexpr Row linuxIgnored[] = {
     {u"org.gnome.Nautilus"}, {u"nautilus"}, {u"org.kde.dolphin"}, {u"dolphin"}, {u"thunar"}, {u"nemo"}, {u"pcmanfm"},
 };
 
-QSet<QString> identitySet(const Table& table) {
+QSet<QString> identitySet(const Table& table)
+{
     QSet<QString> set;
     for (const auto rows : {table.written, table.linuxRows}) {
         for (const Row& row : rows)
@@ -216,31 +217,38 @@ QSet<QString> identitySet(const Table& table) {
 
 } // namespace
 
-Table meetingApplications() {
+Table meetingApplications()
+{
     return {writtenMeetingApps, linuxMeetingApps};
 }
 
-Table browsers() {
+Table browsers()
+{
     return {writtenBrowsers, linuxBrowsers};
 }
 
-Table videoPlayers() {
+Table videoPlayers()
+{
     return {writtenPlayers, linuxPlayers};
 }
 
-Table videoPlayersWithPlaybackQuery() {
+Table videoPlayersWithPlaybackQuery()
+{
     return {writtenPlayersWithQuery, linuxPlayersWithQuery};
 }
 
-Table screenRecorders() {
+Table screenRecorders()
+{
     return {writtenRecorders, linuxRecorders};
 }
 
-Table screenRecordingIgnored() {
+Table screenRecordingIgnored()
+{
     return {writtenIgnored, linuxIgnored};
 }
 
-const QHash<QString, QString>& meetingAppNames() {
+const QHash<QString, QString>& meetingAppNames()
+{
     static const QHash<QString, QString> names = [] {
         QHash<QString, QString> built;
         const Table table = meetingApplications();
@@ -253,32 +261,38 @@ const QHash<QString, QString>& meetingAppNames() {
     return names;
 }
 
-const QSet<QString>& browserBundleIdentifiers() {
+const QSet<QString>& browserBundleIdentifiers()
+{
     static const QSet<QString> set = identitySet(browsers());
     return set;
 }
 
-const QSet<QString>& videoPlayerBundleIdentifiers() {
+const QSet<QString>& videoPlayerBundleIdentifiers()
+{
     static const QSet<QString> set = identitySet(videoPlayers());
     return set;
 }
 
-const QSet<QString>& playbackQueryBundleIdentifiers() {
+const QSet<QString>& playbackQueryBundleIdentifiers()
+{
     static const QSet<QString> set = identitySet(videoPlayersWithPlaybackQuery());
     return set;
 }
 
-const QSet<QString>& screenRecorderBundleIdentifiers() {
+const QSet<QString>& screenRecorderBundleIdentifiers()
+{
     static const QSet<QString> set = identitySet(screenRecorders());
     return set;
 }
 
-const QSet<QString>& screenRecordingIgnoredBundleIdentifiers() {
+const QSet<QString>& screenRecordingIgnoredBundleIdentifiers()
+{
     static const QSet<QString> set = identitySet(screenRecordingIgnored());
     return set;
 }
 
-std::optional<QString> meetingAppName(const QString& bundleIdentifier) {
+std::optional<QString> meetingAppName(const QString& bundleIdentifier)
+{
     const auto found = meetingAppNames().constFind(bundleIdentifier);
     if (found == meetingAppNames().constEnd())
         return std::nullopt;

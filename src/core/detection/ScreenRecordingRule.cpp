@@ -10,7 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 
-bool hasScreenRecordingWindow(const QList<TitledWindow>& windows, const QList<AppSnapshot>& runningApplications) {
+bool hasScreenRecordingWindow(const QList<TitledWindow>& windows, const QList<AppSnapshot>& runningApplications)
+{
     QHash<qint32, QString> identityByProcess;
     for (const AppSnapshot& app : runningApplications) {
         if (app.bundleIdentifier)
@@ -39,9 +40,11 @@ bool hasScreenRecordingWindow(const QList<TitledWindow>& windows, const QList<Ap
 
 ScreenRecordingRule::ScreenRecordingRule(WindowTitles windowTitles, DocumentTest documentTest)
     : m_windowTitles(std::move(windowTitles))
-    , m_documentTest(std::move(documentTest)) {}
+    , m_documentTest(std::move(documentTest))
+{}
 
-bool ScreenRecordingRule::isScreenRecording(const QList<AppSnapshot>& runningApplications) const {
+bool ScreenRecordingRule::isScreenRecording(const QList<AppSnapshot>& runningApplications) const
+{
     if (m_windowTitles && hasScreenRecordingWindow(m_windowTitles(), runningApplications))
         return true;
     // The document test talks to the player, so it runs only while the player does.

@@ -1,0 +1,487 @@
+#include "FakeDetectionProviders.h"
+#include "detection/ActivityDetector.h"
+
+#include <QElapsedTimer>
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A detector on fakes. Passes are driven by the test; the clock moves only when the test moves it.
+struct Rig {
+    Rig()
+        : detector(std::make_unique<ActivityDetector>(fakes.take()))
+    {}
+
+    // One pass on the test's (main) thread, applied at once.
+    void pass() { detector->runDetectionPass(); }
+
+    void configure(const std::function<void(SmartPauseSettings&)>& edit)
+    {
+        SmartPauseSettings settings = detector->settings();
+        edit(settings);
+        detector->setSettings(settings);
+    }
+
+    // Only meeting detection, so one device or application decides.
+    void meetingsOnly()
+    {
+        configure([](SmartPauseSettings& s) {
+            s.detectVideoPlayback = s.detectScreenRecording = s.detectFullscreenGaming = s.detectIdleTime = false;
+        });
+    }
+
+    FakeDetectionProviders fakes;
+    std::unique_ptr<ActivityDetector> detector;
+};
+
+// Runs the main thread's event loop, where worker passes hand over their results, until done() holds; gives
+// up after a generous limit so a lost pass fails the test instead of hanging it.
+bool spinUntil(const std::function<bool()>& done)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (!done() && elapsed.elapsed() < 30000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
+    return done();
+}
+
+// Counts the signals of every published field.
+struct PublishSpies {
+    explicit PublishSpies(ActivityDetector* d)
+        : willChange(d, &ActivityDetector::objectWillChange)
+        , meeting(d, &ActivityDetector::isInMeetingChanged)
+        , video(d, &ActivityDetector::isWatchingVideoChanged)
+        , recording(d, &ActivityDetector::isScreenRecordingChanged)
+        , game(d, &ActivityDetector::isInFullscreenGameChanged)
+        , focus(d, &ActivityDetector::isInDeepFocusAppChanged)
+        , idle(d, &ActivityDetector::isIdleChanged)
+    {}
+
+    QSignalSpy willChange, meeting, video, recording, game, focus, idle;
+};
+
+} // namespace
+
+class TestActivityDetector : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyPassPublishesEveryFlag();
+    void meetingFieldsDescribeTheLastPassOnly();
+    void coolDownAfterActivity();
+    void idleHoldsOnlyWhileItLasts();
+    void statusTable_data();
+    void statusTable();
+    void focusStatusAsksTheWorkspaceAfresh();
+    void monitoringStartsAndStopsOnce();
+    void settingsChangeBetweenPasses();
+    void passesRunOneAtATimeOnTheWorker();
+    void aRunningPassKeepsItsSettings();
+    void shutdownWhileAPassWaitsForTheMainThread();
+    void shutdownWithPassesQueued();
+    void manyPassesOnTheWorker();
+};
+
+void TestActivityDetector::everyPassPublishesEveryFlag()
+{
+    Rig rig;
+    PublishSpies spies(rig.detector.get());
+    QVERIFY(rig.detector->isIdle() == false && !rig.detector->isActivityDetected());
+
+    // Nothing found, still six assignments, each announced with its value.
+    rig.pass();
+    QCOMPARE(spies.willChange.count(), 6);
+    for (QSignalSpy* spy : {&spies.meeting, &spies.video, &spies.recording, &spies.game, &spies.focus, &spies.idle}) {
+        QCOMPARE(spy->count(), 1);
+        QCOMPARE(spy->first().first().toBool(), false);
+    }
+
+    rig.fakes.idleTime->seconds.set(120);
+    rig.fakes.screenRecording->recording.set(true);
+    rig.pass();
+    QCOMPARE(spies.willChange.count(), 12);
+    QCOMPARE(spies.idle.last().first().toBool(), true);
+    QCOMPARE(spies.recording.last().first().toBool(), true);
+    QCOMPARE(spies.meeting.count(), 2);
+    QVERIFY(rig.detector->isIdle() && rig.detector->isScreenRecording());
+    QVERIFY(!rig.detector->isInMeeting() && !rig.detector->isWatchingVideo() && !rig.detector->isInFullscreenGame());
+
+    // The will-change signal comes before the value is stored.
+    bool sawOldValue = false;
+    connect(rig.detector.get(), &ActivityDetector::objectWillChange, this,
+            [&] { sawOldValue = sawOldValue || rig.detector->isScreenRecording(); });
+    rig.fakes.screenRecording->recording.set(false);
+    rig.pass();
+    QVERIFY(sawOldValue);
+    QVERIFY(!rig.detector->isScreenRecording());
+
+    // The flags are observable properties carrying their values.
+    QCOMPARE(rig.detector->property("isIdle").toBool(), true);
+}
+
+void TestActivityDetector::meetingFieldsDescribeTheLastPassOnly()
+{
+    Rig rig;
+    rig.meetingsOnly();
+    rig.fakes.camera->identifiers.set({u"cam"_s});
+    rig.fakes.workspace->applications.set({runningApp(u"us.zoom.xos"_s, 1, true)});
+    rig.pass();
+    QVERIFY(rig.detector->isInMeeting());
+    QVERIFY(rig.detector->meetingPauseCamera());
+    QCOMPARE(rig.detector->meetingPauseAppBundleIdentifier(), u"us.zoom.xos"_s);
+    const QDateTime seen = rig.fakes.clock->time.get();
+    QCOMPARE(rig.detector->lastActivityDetectedAt(), seen);
+
+    // Meeting detection switched off: the next pass clears the flag and all three fields, keeps the stamp.
+    rig.configure([](SmartPauseSettings& s) { s.detectMeetings = false; });
+    rig.fakes.clock->advance(2);
+    rig.pass();
+    QVERIFY(!rig.detector->isInMeeting());
+    QVERIFY(!rig.detector->meetingPauseCamera());
+    QCOMPARE(rig.detector->meetingPauseAppBundleIdentifier(), std::nullopt);
+    QCOMPARE(rig.detector->lastActivityDetectedAt(), seen);
+    QCOMPARE(rig.fakes.camera->calls(), 1);
+
+    // A later pass with activity moves the stamp to its own end.
+    rig.configure([](SmartPauseSettings& s) { s.detectMeetings = true; });
+    rig.fakes.clock->advance(2);
+    rig.pass();
+    QCOMPARE(rig.detector->lastActivityDetectedAt(), seen.addSecs(4));
+}
+
+void TestActivityDetector::coolDownAfterActivity()
+{
+    Rig rig;
+    rig.meetingsOnly();
+    rig.configure([](SmartPauseSettings& s) { s.cooldownAfterActivity = 60; });
+    QCOMPARE(rig.detector->activityStatusText(), u"Smart Pause active"_s);
+    QCOMPARE(rig.detector->activityStatusSymbolName(), u"pause.circle"_s);
+
+    rig.fakes.microphone->identifiers.set({u"mic"_s});
+    rig.pass();
+    QVERIFY(rig.detector->isActivityDetected());
+    rig.fakes.microphone->identifiers.set({});
+    rig.fakes.clock->advance(2);
+    rig.pass();
+    QVERIFY(!rig.detector->isInMeeting());
+
+    // Held for the cool-down, measured from the end of the last pass that saw the meeting.
+    QVERIFY(rig.detector->isActivityDetected());
+    QCOMPARE(rig.detector->activityStatusText(), u"Winding down\u2026"_s);
+    QCOMPARE(rig.detector->activityStatusSymbolName(), u"hourglass"_s);
+    rig.fakes.clock->advance(57.9);
+    QVERIFY(rig.detector->isActivityDetected());
+    rig.fakes.clock->advance(0.1);
+    QVERIFY(!rig.detector->isActivityDetected());
+    // The text looks only at whether a stamp exists.
+    QCOMPARE(rig.detector->activityStatusText(), u"Winding down\u2026"_s);
+
+    // A clock set back counts as within the cool-down, however short the cool-down is.
+    rig.fakes.clock->advance(-3600);
+    QVERIFY(rig.detector->isActivityDetected());
+    rig.configure([](SmartPauseSettings& s) { s.cooldownAfterActivity = 0; });
+    QVERIFY(rig.detector->isActivityDetected());
+
+    // A cool-down of 0 holds exactly while a flag is set.
+    rig.fakes.clock->advance(3600);
+    rig.configure([](SmartPauseSettings& s) { s.cooldownAfterActivity = 0; });
+    rig.fakes.microphone->identifiers.set({u"mic"_s});
+    rig.pass();
+    QVERIFY(rig.detector->isActivityDetected());
+    rig.fakes.microphone->identifiers.set({});
+    rig.pass();
+    QVERIFY(!rig.detector->isActivityDetected());
+}
+
+void TestActivityDetector::idleHoldsOnlyWhileItLasts()
+{
+    Rig rig;
+    rig.configure([](SmartPauseSettings& s) {
+        s = SmartPauseSettings();
+        s.detectMeetings = s.detectVideoPlayback = s.detectScreenRecording = s.detectFullscreenGaming = false;
+    });
+    rig.fakes.idleTime->seconds.set(59);
+    rig.pass();
+    QVERIFY(!rig.detector->isIdle());
+    rig.fakes.idleTime->seconds.set(60);
+    rig.pass();
+    QVERIFY(rig.detector->isIdle());
+    QVERIFY(rig.detector->isActivityDetected());
+    QCOMPARE(rig.detector->activityStatusText(), u"Away from desk"_s);
+    QCOMPARE(rig.detector->activityStatusSymbolName(), u"moon"_s);
+
+    // Input resumes: released at the next pass, no cool-down, and never a stamp.
+    rig.fakes.idleTime->seconds.set(0.5);
+    rig.pass();
+    QVERIFY(!rig.detector->isActivityDetected());
+    QCOMPARE(rig.detector->lastActivityDetectedAt(), std::nullopt);
+    QCOMPARE(rig.detector->activityStatusText(), u"Smart Pause active"_s);
+    QCOMPARE(rig.fakes.workspace->calls(), 0);
+}
+
+void TestActivityDetector::statusTable_data()
+{
+    QTest::addColumn<DetectionSnapshot>("snapshot");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("symbol");
+
+    auto meeting = [](bool camera, bool microphone, std::optional<QString> app) {
+        DetectionSnapshot s;
+        s.isInMeeting = true;
+        s.meetingPauseCamera = camera;
+        s.meetingPauseMicrophone = microphone;
+        s.meetingPauseAppBundleIdentifier = std::move(app);
+        return s;
+    };
+    auto flag = [](bool DetectionSnapshot::*field) {
+        DetectionSnapshot s;
+        s.*field = true;
+        return s;
+    };
+    DetectionSnapshot everything = meeting(true, true, std::nullopt);
+    everything.isWatchingVideo = everything.isScreenRecording = everything.isIdle = true;
+    DetectionSnapshot videoAndIdle = flag(&DetectionSnapshot::isWatchingVideo);
+    videoAndIdle.isIdle = true;
+    DetectionSnapshot recordingAndGame = flag(&DetectionSnapshot::isScreenRecording);
+    recordingAndGame.isInFullscreenGame = true;
+
+    QTest::newRow("listed app") << meeting(true, true, u"us.zoom.xos"_s) << u"In Zoom"_s << u"person.wave.2"_s;
+    QTest::newRow("linux app") << meeting(false, false, u"com.discordapp.Discord"_s) << u"In Discord"_s
+                               << u"person.wave.2"_s;
+    QTest::newRow("unlisted app") << meeting(false, true, u"org.example.Call"_s) << u"Meeting app active"_s
+                                  << u"person.wave.2"_s;
+    QTest::newRow("camera and microphone") << everything << u"Camera and microphone in use"_s << u"video.fill"_s;
+    QTest::newRow("camera") << meeting(true, false, std::nullopt) << u"Camera in use"_s << u"camera.fill"_s;
+    QTest::newRow("microphone") << meeting(false, true, std::nullopt) << u"Microphone in use"_s << u"mic.fill"_s;
+    QTest::newRow("meeting, no evidence")
+        << meeting(false, false, std::nullopt) << u"Meeting activity detected"_s << u"person.wave.2"_s;
+    QTest::newRow("video") << videoAndIdle << u"Watching video"_s << u"play.rectangle"_s;
+    QTest::newRow("recording") << recordingAndGame << u"Recording screen"_s << u"record.circle"_s;
+    QTest::newRow("game") << flag(&DetectionSnapshot::isInFullscreenGame) << u"Playing a game"_s << u"gamecontroller"_s;
+    QTest::newRow("focus") << flag(&DetectionSnapshot::isInDeepFocusApp) << u"Focus app active"_s << u"scope"_s;
+    QTest::newRow("idle") << flag(&DetectionSnapshot::isIdle) << u"Away from desk"_s << u"moon"_s;
+    QTest::newRow("nothing yet") << DetectionSnapshot() << u"Smart Pause active"_s << u"pause.circle"_s;
+    DetectionSnapshot stamped;
+    stamped.activityDetectedAt = QDateTime(QDate(2020, 1, 1), QTime(0, 0), QTimeZone::utc());
+    QTest::newRow("after activity") << stamped << u"Winding down\u2026"_s << u"hourglass"_s;
+}
+
+void TestActivityDetector::statusTable()
+{
+    QFETCH(DetectionSnapshot, snapshot);
+    QFETCH(QString, text);
+    QFETCH(QString, symbol);
+    Rig rig;
+    rig.detector->applySnapshot(snapshot);
+    QCOMPARE(rig.detector->activityStatusText(), text);
+    QCOMPARE(rig.detector->activityStatusSymbolName(), symbol);
+}
+
+void TestActivityDetector::focusStatusAsksTheWorkspaceAfresh()
+{
+    Rig rig;
+    rig.configure([](SmartPauseSettings& s) {
+        s.deepFocusApps = {{u"Kate"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForegroundFullscreen},
+                           {u"Blender"_s, u"org.blender.Blender"_s, DeepFocusMode::WhenOpen}};
+    });
+    DetectionSnapshot focused;
+    focused.isInDeepFocusApp = true;
+    rig.detector->applySnapshot(focused);
+
+    rig.fakes.workspace->applications.set(
+        {runningApp(u"org.blender.Blender"_s, 1), runningApp(u"org.kde.kate"_s, 2, true)});
+    QCOMPARE(rig.detector->activityStatusText(), u"Kate is active"_s);
+    rig.fakes.workspace->applications.set({runningApp(u"org.blender.Blender"_s, 1), runningApp(u"firefox"_s, 3, true)});
+    QCOMPARE(rig.detector->activityStatusText(), u"Blender is open"_s);
+    QCOMPARE(rig.fakes.workspace->calls(), 2);
+    // The symbol alone needs no application list.
+    QCOMPARE(rig.detector->activityStatusSymbolName(), u"scope"_s);
+    QCOMPARE(rig.fakes.workspace->calls(), 2);
+}
+
+void TestActivityDetector::monitoringStartsAndStopsOnce()
+{
+    Rig rig;
+    QVERIFY(!rig.detector->isMonitoring());
+    rig.detector->startMonitoring();
+    rig.detector->startMonitoring();
+    const QList<QTimer*> timers = rig.detector->findChildren<QTimer*>();
+    QCOMPARE(timers.size(), 1);
+    QCOMPARE(timers.first()->interval(), 2000);
+    QVERIFY(timers.first()->isActive());
+    QCOMPARE(timers.first()->thread(), QThread::currentThread());
+    // No pass at start: the first comes one interval later.
+    QCoreApplication::processEvents();
+    QCOMPARE(rig.fakes.idleTime->calls(), 0);
+
+    // Stopping keeps whatever the last pass published.
+    rig.fakes.idleTime->seconds.set(3600);
+    rig.pass();
+    rig.detector->stopMonitoring();
+    rig.detector->stopMonitoring();
+    QVERIFY(!rig.detector->isMonitoring());
+    QVERIFY(rig.detector->findChildren<QTimer*>().isEmpty());
+    QVERIFY(rig.detector->isIdle());
+
+    rig.detector->startMonitoring();
+    QCOMPARE(rig.detector->findChildren<QTimer*>().size(), 1);
+    QVERIFY(rig.detector->isMonitoring());
+}
+
+void TestActivityDetector::settingsChangeBetweenPasses()
+{
+    Rig rig;
+    rig.fakes.workspace->applications.set({runningApp(u"vlc"_s, 1, true)});
+    rig.fakes.videoPlayback->playing.set({u"vlc"_s});
+    rig.fakes.idleTime->seconds.set(30);
+    rig.pass();
+    QVERIFY(rig.detector->isWatchingVideo());
+    QVERIFY(!rig.detector->isIdle());
+
+    // The pass measures idleness against the detector's own threshold, not the record's copy.
+    rig.configure([](SmartPauseSettings& s) {
+        s.detectVideoPlayback = false;
+        s.idleThreshold = 10;
+    });
+    rig.pass();
+    QVERIFY(!rig.detector->isWatchingVideo());
+    QVERIFY(!rig.detector->isIdle());
+    QCOMPARE(rig.fakes.videoPlayback->calls(), 1);
+    rig.detector->setIdleThreshold(10);
+    rig.pass();
+    QVERIFY(rig.detector->isIdle());
+}
+
+void TestActivityDetector::passesRunOneAtATimeOnTheWorker()
+{
+    Rig rig;
+    QSemaphore started;
+    QSemaphore gate;
+    std::atomic<int> running{0};
+    std::atomic<int> mostAtOnce{0};
+    std::atomic<bool> onMainThread{false};
+    QThread* const mainThread = QThread::currentThread();
+    rig.fakes.idleTime->hook.set([&] {
+        onMainThread = onMainThread || QThread::currentThread() == mainThread;
+        mostAtOnce = std::max(mostAtOnce.load(), ++running);
+        started.release();
+        gate.acquire();
+        --running;
+    });
+    QSignalSpy applied(rig.detector.get(), &ActivityDetector::isIdleChanged);
+
+    // Three fires while the first pass is stuck: none dropped, none merged, one at a time.
+    for (int i = 0; i < 3; ++i)
+        rig.detector->queueDetectionPass();
+    started.acquire();
+    QCOMPARE(applied.count(), 0);
+    gate.release(3);
+    QVERIFY(spinUntil([&] { return applied.count() == 3; }));
+    QCOMPARE(rig.fakes.idleTime->calls(), 3);
+    QCOMPARE(mostAtOnce.load(), 1);
+    QVERIFY(!onMainThread);
+}
+
+void TestActivityDetector::aRunningPassKeepsItsSettings()
+{
+    Rig rig;
+    rig.fakes.workspace->applications.set({runningApp(u"vlc"_s, 1, true)});
+    rig.fakes.idleTime->seconds.set(30);
+    QSemaphore started;
+    QSemaphore gate;
+    rig.fakes.camera->hook.set([&] {
+        started.release();
+        gate.acquire();
+    });
+    QSignalSpy applied(rig.detector.get(), &ActivityDetector::isIdleChanged);
+
+    rig.detector->queueDetectionPass();
+    started.acquire();
+    // Written while the pass is in its meeting probe, which comes before the video and idle probes.
+    rig.configure([](SmartPauseSettings& s) { s.detectVideoPlayback = false; });
+    rig.detector->setIdleThreshold(5);
+    rig.fakes.camera->hook.set({});
+    gate.release();
+    QVERIFY(spinUntil([&] { return applied.count() == 1; }));
+    QCOMPARE(rig.fakes.videoPlayback->calls(), 1);
+    QVERIFY(!rig.detector->isIdle());
+
+    // The next pass sees the new values.
+    rig.detector->queueDetectionPass();
+    QVERIFY(spinUntil([&] { return applied.count() == 2; }));
+    QCOMPARE(rig.fakes.videoPlayback->calls(), 1);
+    QVERIFY(rig.detector->isIdle());
+}
+
+void TestActivityDetector::shutdownWhileAPassWaitsForTheMainThread()
+{
+    // The worker reaches the hand-over at a moment this thread cannot see, so try it many times; each
+    // destruction must return with the worker released, and the unapplied result must never arrive.
+    for (int round = 0; round < 50; ++round) {
+        auto rig = std::make_unique<Rig>();
+        QSemaphore probed;
+        rig->fakes.idleTime->hook.set([&] { probed.release(); });
+        rig->fakes.screenRecording->recording.set(true);
+        int applied = 0;
+        connect(rig->detector.get(), &ActivityDetector::isIdleChanged, this, [&] { ++applied; });
+        rig->detector->queueDetectionPass();
+        probed.acquire();
+        rig.reset();
+        QCoreApplication::processEvents();
+        QCOMPARE(applied, 0);
+    }
+}
+
+void TestActivityDetector::shutdownWithPassesQueued()
+{
+    for (int round = 0; round < 20; ++round) {
+        Rig rig;
+        rig.detector->startMonitoring();
+        for (int i = 0; i < 50; ++i)
+            rig.detector->queueDetectionPass();
+        if (round % 2 == 0)
+            QCoreApplication::processEvents();
+    }
+}
+
+void TestActivityDetector::manyPassesOnTheWorker()
+{
+    Rig rig;
+    rig.configure([](SmartPauseSettings& s) {
+        s.videoDetectionMode = VideoDetectionMode::IncludeBackground;
+        s.deepFocusApps = {{u"Kate"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForegroundFullscreen}};
+    });
+    rig.fakes.workspace->applications.set(
+        {runningApp(u"org.kde.kate"_s, 1, true), runningApp(u"vlc"_s, 2), runningApp(u"us.zoom.xos"_s, 3)});
+    rig.fakes.appCategory->categories.set({{1, u"Game"_s}});
+    rig.fakes.windowList->windows.set({{1, QRectF(0, 0, 1920, 1080), 0}});
+    QSignalSpy applied(rig.detector.get(), &ActivityDetector::isIdleChanged);
+
+    // Fires, settings writes and reads from the main thread interleave with passes on the worker.
+    constexpr int passes = 300;
+    for (int i = 0; i < passes; ++i) {
+        rig.detector->queueDetectionPass();
+        rig.fakes.idleTime->seconds.set(i % 2 == 0 ? 0 : 120);
+        rig.fakes.microphone->identifiers.set(i % 3 == 0 ? QStringList{u"mic"_s} : QStringList{});
+        rig.configure([i](SmartPauseSettings& s) { s.detectMeetings = i % 5 != 0; });
+        rig.detector->setIdleThreshold(60 + i % 7);
+        if (i % 10 == 0) {
+            QCoreApplication::processEvents();
+            (void)rig.detector->isActivityDetected();
+            (void)rig.detector->activityStatusText();
+        }
+    }
+    QVERIFY(spinUntil([&] { return applied.count() == passes; }));
+    QVERIFY(rig.detector->isInFullscreenGame());
+    QVERIFY(rig.detector->isInDeepFocusApp());
+    QCOMPARE(rig.detector->lastActivityDetectedAt(), rig.fakes.clock->time.get());
+}
+
+QTEST_GUILESS_MAIN(TestActivityDetector)
+#include "tst_activitydetector.moc"
