@@ -7,11 +7,13 @@
 // A lock whose availability the test sets, counting questions and lock requests.
 class FakeScreenLock final : public velto::ScreenLocking {
 public:
-    [[nodiscard]] bool isLockAvailable() const override {
+    [[nodiscard]] bool isLockAvailable() const override
+    {
         ++availabilityQueries;
         return available;
     }
-    void lockScreen() override {
+    void lockScreen() override
+    {
         ++lockRequests;
         if (onLock)
             onLock();

@@ -14,7 +14,8 @@ public:
 
     void play(const QString& name, float volume) override { played.append({name, volume}); }
 
-    [[nodiscard]] QStringList names() const {
+    [[nodiscard]] QStringList names() const
+    {
         QStringList result;
         for (const Played& p : played)
             result.append(p.name);

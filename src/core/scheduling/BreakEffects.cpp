@@ -8,13 +8,15 @@
 
 namespace velto {
 
-float clampedVolume(float volume) {
+float clampedVolume(float volume)
+{
     if (std::isnan(volume) || volume < 0.0F)
         return 0.0F;
     return volume > 1.0F ? 1.0F : volume;
 }
 
-void playBreakStartEffects(const SettingsManager& settings, SoundPlaying* sounds, ScreenLocking* lock) {
+void playBreakStartEffects(const SettingsManager& settings, SoundPlaying* sounds, ScreenLocking* lock)
+{
     const NotificationSettings& notifications = settings.notificationSettings();
     if (sounds && notifications.playSoundOnBreakStart)
         sounds->play(ChimeNames::breakStart.toString(), notifications.soundVolume);
@@ -23,13 +25,15 @@ void playBreakStartEffects(const SettingsManager& settings, SoundPlaying* sounds
         lock->lockScreen();
 }
 
-void playBreakEndEffects(const SettingsManager& settings, SoundPlaying* sounds) {
+void playBreakEndEffects(const SettingsManager& settings, SoundPlaying* sounds)
+{
     const NotificationSettings& notifications = settings.notificationSettings();
     if (sounds && notifications.playSoundOnBreakEnd)
         sounds->play(ChimeNames::breakEnd.toString(), notifications.soundVolume);
 }
 
-void playPreBreakChime(SoundPlaying* sounds) {
+void playPreBreakChime(SoundPlaying* sounds)
+{
     if (sounds)
         sounds->play(ChimeNames::preBreak.toString(), 1.0F);
 }

@@ -15,7 +15,8 @@ namespace {
 
 // Settings in memory, with the chimes and the lock as fakes.
 struct Rig {
-    void sounds(bool onStart, bool onEnd, float volume) {
+    void sounds(bool onStart, bool onEnd, float volume)
+    {
         NotificationSettings notifications = settings.notificationSettings();
         notifications.playSoundOnBreakStart = onStart;
         notifications.playSoundOnBreakEnd = onEnd;
@@ -23,7 +24,8 @@ struct Rig {
         settings.setNotificationSettings(notifications);
     }
 
-    void lockOnBreak(bool on) {
+    void lockOnBreak(bool on)
+    {
         BreakConfiguration configuration = settings.breakConfiguration();
         configuration.lockScreenOnBreak = on;
         settings.setBreakConfiguration(configuration);
@@ -52,7 +54,8 @@ private Q_SLOTS:
     void volumesAreClampedIntoRange();
 };
 
-void TestBreakEffects::chimesFollowTheirOwnSwitches_data() {
+void TestBreakEffects::chimesFollowTheirOwnSwitches_data()
+{
     QTest::addColumn<bool>("onStart");
     QTest::addColumn<bool>("onEnd");
     QTest::addColumn<float>("volume");
@@ -66,7 +69,8 @@ void TestBreakEffects::chimesFollowTheirOwnSwitches_data() {
     QTest::newRow("silent volume") << true << true << 0.0F << QStringList{u"Glass"_s, u"Blow"_s};
 }
 
-void TestBreakEffects::chimesFollowTheirOwnSwitches() {
+void TestBreakEffects::chimesFollowTheirOwnSwitches()
+{
     QFETCH(bool, onStart);
     QFETCH(bool, onEnd);
     QFETCH(float, volume);
@@ -82,7 +86,8 @@ void TestBreakEffects::chimesFollowTheirOwnSwitches() {
         QCOMPARE(played.volume, volume);
 }
 
-void TestBreakEffects::chimeNamesIgnoreTheStoredSoundChoices() {
+void TestBreakEffects::chimeNamesIgnoreTheStoredSoundChoices()
+{
     Rig rig;
     NotificationSettings notifications = rig.settings.notificationSettings();
     notifications.breakStartSound = u"Pop"_s;
@@ -94,7 +99,8 @@ void TestBreakEffects::chimeNamesIgnoreTheStoredSoundChoices() {
     QCOMPARE(rig.player.names(), (QStringList{u"Glass"_s, u"Blow"_s}));
 }
 
-void TestBreakEffects::theLockNeedsTheSettingAndAnAvailableMethod_data() {
+void TestBreakEffects::theLockNeedsTheSettingAndAnAvailableMethod_data()
+{
     QTest::addColumn<bool>("setting");
     QTest::addColumn<bool>("available");
     QTest::addColumn<bool>("soundOn");
@@ -107,7 +113,8 @@ void TestBreakEffects::theLockNeedsTheSettingAndAnAvailableMethod_data() {
     QTest::newRow("off and unavailable") << false << false << true << 0;
 }
 
-void TestBreakEffects::theLockNeedsTheSettingAndAnAvailableMethod() {
+void TestBreakEffects::theLockNeedsTheSettingAndAnAvailableMethod()
+{
     QFETCH(bool, setting);
     QFETCH(bool, available);
     QFETCH(bool, soundOn);
@@ -131,7 +138,8 @@ void TestBreakEffects::theLockNeedsTheSettingAndAnAvailableMethod() {
     QCOMPARE(rig.lock.lockRequests, expectedLocks);
 }
 
-void TestBreakEffects::thePreBreakChimeIgnoresTheSettings() {
+void TestBreakEffects::thePreBreakChimeIgnoresTheSettings()
+{
     Rig rig;
     rig.sounds(false, false, 0.0F);
     playPreBreakChime(&rig.player);
@@ -140,7 +148,8 @@ void TestBreakEffects::thePreBreakChimeIgnoresTheSettings() {
     QCOMPARE(rig.lock.lockRequests, 0);
 }
 
-void TestBreakEffects::missingEffectsAreSkipped() {
+void TestBreakEffects::missingEffectsAreSkipped()
+{
     Rig rig;
     rig.lockOnBreak(true);
     // No player: the lock still happens.
@@ -154,7 +163,8 @@ void TestBreakEffects::missingEffectsAreSkipped() {
     QCOMPARE(rig.player.played.size(), 1);
 }
 
-void TestBreakEffects::volumesAreClampedIntoRange_data() {
+void TestBreakEffects::volumesAreClampedIntoRange_data()
+{
     QTest::addColumn<float>("volume");
     QTest::addColumn<float>("expected");
 
@@ -168,7 +178,8 @@ void TestBreakEffects::volumesAreClampedIntoRange_data() {
     QTest::newRow("nan") << std::numeric_limits<float>::quiet_NaN() << 0.0F;
 }
 
-void TestBreakEffects::volumesAreClampedIntoRange() {
+void TestBreakEffects::volumesAreClampedIntoRange()
+{
     QFETCH(float, volume);
     QFETCH(float, expected);
     QCOMPARE(clampedVolume(volume), expected);
