@@ -48,8 +48,6 @@ private Q_SLOTS:
     void screenRecordingDocumentTestOnlyWhileThePlayerRuns();
     void fullscreenGame();
     void focusApplications();
-    void focusStatusText();
-    void idleAtTheThreshold();
     void passAsksOnlyWhatIsSwitchedOn();
 };
 
@@ -81,13 +79,6 @@ void TestDetectionRules::knownApplicationTables()
     for (const QString& browser : KA::browserBundleIdentifiers()) {
         QVERIFY2(KA::meetingAppNames().contains(browser), qPrintable(browser));
         QVERIFY2(!KA::playbackQueryBundleIdentifiers().contains(browser), qPrintable(browser));
-    }
-    // Every Linux browser name of the meeting table is in the browser set, so it needs a device too.
-    for (const auto& row : KA::meetingApplications().linuxRows) {
-        const bool browserName = QStringList{u"Firefox"_s, u"Chrome"_s, u"Chromium"_s, u"Microsoft Edge"_s,
-                                             u"Brave"_s,   u"Opera"_s,  u"Vivaldi"_s,  u"Zen"_s}
-                                     .contains(row.displayName.toString());
-        QCOMPARE(KA::browserBundleIdentifiers().contains(row.bundleIdentifier.toString()), browserName);
     }
     for (const QString& player : KA::playbackQueryBundleIdentifiers())
         QVERIFY2(KA::videoPlayerBundleIdentifiers().contains(player), qPrintable(player));
@@ -380,37 +371,6 @@ void TestDetectionRules::focusApplications()
     fakes.windowList->windows.set({});
     const QList<AppSnapshot> kateFront{runningApp(u"org.kde.kate"_s, 31, true)};
     QVERIFY(!detectDeepFocusApp(kateFront, frontmostApplication(kateFront), twice, screen, windows));
-}
-
-void TestDetectionRules::focusStatusText()
-{
-    const QList<DeepFocusApp> entries{
-        focus(u"Kate"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground),
-        focus(u"Blender"_s, u"org.blender.Blender"_s, DeepFocusMode::WhenOpen),
-        focus(u"Krita"_s, u"org.kde.krita"_s, DeepFocusMode::WhenOpen),
-    };
-    // The frontmost application's entry, whatever its mode, even with a "when open" entry running.
-    QCOMPARE(
-        deepFocusStatusText({runningApp(u"org.blender.Blender"_s, 1), runningApp(u"org.kde.kate"_s, 2, true)}, entries),
-        u"Kate is active"_s);
-    // Otherwise the first running application, in running order, with a "when open" entry.
-    QCOMPARE(deepFocusStatusText({runningApp(u"org.kde.krita"_s, 3), runningApp(u"org.blender.Blender"_s, 1),
-                                  runningApp(u"firefox"_s, 4, true)},
-                                 entries),
-             u"Krita is open"_s);
-    QCOMPARE(deepFocusStatusText({runningApp(u"org.kde.kate"_s, 2), runningApp(u"firefox"_s, 4, true)}, entries),
-             u"Focus app active"_s);
-}
-
-void TestDetectionRules::idleAtTheThreshold()
-{
-    FakeIdleTime idle;
-    idle.seconds.set(59.9);
-    QVERIFY(!detectIdle(60, idle));
-    idle.seconds.set(60);
-    QVERIFY(detectIdle(60, idle));
-    idle.seconds.set(0);
-    QVERIFY(detectIdle(0, idle));
 }
 
 void TestDetectionRules::passAsksOnlyWhatIsSwitchedOn()
