@@ -19,6 +19,7 @@ test-sanitize: build-sanitize
 
 # Measurements; they take a few minutes of real time.
 bench: build
+	$(BUILD_DIR)/bench/bench_detection_pass
 	$(BUILD_DIR)/bench/bench_timer_drift
 
 deps:
