@@ -25,7 +25,8 @@ private:
 
 } // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char* argv[])
+{
     QCoreApplication application(argc, argv);
     const int seconds = argc > 1 ? std::max(5, QByteArray(argv[1]).toInt()) : 120;
 

@@ -14,7 +14,8 @@ AppDelegate::AppDelegate(QObject* parent)
     : QObject(parent)
     , m_userDefaults(std::make_unique<SettingsFileStore>(SettingsFileStore::defaultFilePath()))
     , m_launchAtLoginService(std::make_unique<LaunchAtLoginService>(
-          std::make_unique<XdgAutostartEntry>(QCoreApplication::applicationFilePath()))) {
+          std::make_unique<XdgAutostartEntry>(QCoreApplication::applicationFilePath())))
+{
     m_settingsManager = new SettingsManager(*m_userDefaults, m_launchAtLoginService.get(), this);
     // Days and office hours follow the system's local time as it changes.
     m_breakManager = new BreakManager(*m_userDefaults, std::nullopt, {}, this);
@@ -22,12 +23,14 @@ AppDelegate::AppDelegate(QObject* parent)
 }
 
 // The children write to the store, so they go first.
-AppDelegate::~AppDelegate() {
+AppDelegate::~AppDelegate()
+{
     delete m_breakManager;
     delete m_settingsManager;
 }
 
-void AppDelegate::applicationDidFinishLaunching() {
+void AppDelegate::applicationDidFinishLaunching()
+{
     connect(m_settingsManager, &SettingsManager::isEnabledChanged, m_breakManager,
             [this](bool enabled) { enabled ? m_breakManager->start() : m_breakManager->stop(); });
     m_settingsManager->isEnabled() ? m_breakManager->start() : m_breakManager->stop();

@@ -20,8 +20,8 @@ void choosePlatform()
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return;
     }
-    const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-                         && qEnvironmentVariable("XDG_SESSION_TYPE") == u"wayland"_s;
+    const bool wayland =
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariable("XDG_SESSION_TYPE") == u"wayland"_s;
     qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;offscreen");
 }
 

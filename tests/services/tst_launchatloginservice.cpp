@@ -12,8 +12,7 @@ public:
     explicit ScriptedRegistrar(QList<bool>* calls, std::optional<QString> error = std::nullopt)
         : m_calls(calls)
         , m_error(std::move(error))
-    {
-    }
+    {}
     std::optional<QString> setRegistered(bool registered) override
     {
         m_calls->append(registered);

@@ -10,7 +10,8 @@ class FakeActivityDetector final : public QObject, public velto::ActivityDetecti
     Q_INTERFACES(velto::ActivityDetecting)
 
 public:
-    [[nodiscard]] bool isActivityDetected() const override {
+    [[nodiscard]] bool isActivityDetected() const override
+    {
         ++queries;
         return active;
     }

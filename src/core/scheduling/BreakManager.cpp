@@ -17,7 +17,8 @@ namespace {
 // A key pressed less than this long ago means the user is typing.
 constexpr double typingWindowSeconds = 2.0;
 
-std::optional<qint64> wholeNumber(const QVariant& value) {
+std::optional<qint64> wholeNumber(const QVariant& value)
+{
     bool ok = false;
     const double number = value.toDouble(&ok);
     if (!ok || !std::isfinite(number) || std::trunc(number) != number || std::abs(number) > 9.0e15)
@@ -44,7 +45,8 @@ BreakManager::BreakManager(UserDefaultsStore& userDefaults, std::optional<QTimeZ
     : QObject(parent)
     , m_userDefaults(userDefaults)
     , m_calendar(std::move(calendar))
-    , m_now(std::move(now)) {
+    , m_now(std::move(now))
+{
     for (QTimer* timer : {&m_workTimer, &m_breakTimer}) {
         timer->setInterval(1000);
         timer->setTimerType(Qt::PreciseTimer);
@@ -66,71 +68,86 @@ BreakManager::BreakManager(UserDefaultsStore& userDefaults, std::optional<QTimeZ
 
 BreakManager::~BreakManager() = default;
 
-void BreakManager::setSettingsManager(SettingsManager* settings) {
+void BreakManager::setSettingsManager(SettingsManager* settings)
+{
     m_settingsManager = settings;
 }
 
-void BreakManager::setActivityDetector(QObject* detector) {
+void BreakManager::setActivityDetector(QObject* detector)
+{
     m_activityDetector = detector;
 }
 
-void BreakManager::setKeyDownTimeProvider(const KeyDownTimeProviding* provider) {
+void BreakManager::setKeyDownTimeProvider(const KeyDownTimeProviding* provider)
+{
     m_keyDownTime = provider;
 }
 
-ActivityDetecting* BreakManager::activityDetector() const {
+ActivityDetecting* BreakManager::activityDetector() const
+{
     return qobject_cast<ActivityDetecting*>(m_activityDetector.data());
 }
 
 // Published fields.
 
-void BreakManager::setState(BreakState value) {
+void BreakManager::setState(BreakState value)
+{
     publish(this, m_state, value, &BreakManager::stateChanged);
 }
 
-void BreakManager::setTimeRemaining(double value) {
+void BreakManager::setTimeRemaining(double value)
+{
     publish(this, m_timeRemaining, value, &BreakManager::timeRemainingChanged);
 }
 
-void BreakManager::setBreakTimeRemaining(double value) {
+void BreakManager::setBreakTimeRemaining(double value)
+{
     publish(this, m_breakTimeRemaining, value, &BreakManager::breakTimeRemainingChanged);
 }
 
-void BreakManager::setCurrentBreakType(BreakType value) {
+void BreakManager::setCurrentBreakType(BreakType value)
+{
     publish(this, m_currentBreakType, value, &BreakManager::currentBreakTypeChanged);
 }
 
-void BreakManager::setShortBreakCount(qint64 value) {
+void BreakManager::setShortBreakCount(qint64 value)
+{
     publish(this, m_shortBreakCount, value, &BreakManager::shortBreakCountChanged);
 }
 
-void BreakManager::setDailyBreakCount(qint64 value) {
+void BreakManager::setDailyBreakCount(qint64 value)
+{
     publish(this, m_dailyBreakCount, value, &BreakManager::dailyBreakCountChanged);
 }
 
-void BreakManager::setPauseReason(const std::optional<PauseReason>& value) {
+void BreakManager::setPauseReason(const std::optional<PauseReason>& value)
+{
     publish(this, m_pauseReason, value, &BreakManager::pauseReasonChanged);
 }
 
-void BreakManager::changePauseReason(const std::optional<PauseReason>& value) {
+void BreakManager::changePauseReason(const std::optional<PauseReason>& value)
+{
     if (m_pauseReason != value)
         setPauseReason(value);
 }
 
 // Computed values.
 
-bool BreakManager::shouldTakeLongBreak() const {
+bool BreakManager::shouldTakeLongBreak() const
+{
     if (!m_settingsManager)
         return false;
     const BreakConfiguration& configuration = m_settingsManager->breakConfiguration();
     return configuration.longBreakEnabled && m_shortBreakCount + 1 >= configuration.longBreakFrequency;
 }
 
-BreakType BreakManager::upcomingBreakType() const {
+BreakType BreakManager::upcomingBreakType() const
+{
     return shouldTakeLongBreak() ? BreakType::Long : BreakType::Short;
 }
 
-bool BreakManager::canEndBreakEarly() const {
+bool BreakManager::canEndBreakEarly() const
+{
     if (m_state != BreakState::OnBreak || !m_settingsManager)
         return false;
     const BreakConfiguration& configuration = m_settingsManager->breakConfiguration();
@@ -139,21 +156,24 @@ bool BreakManager::canEndBreakEarly() const {
     return configuration.allowEarlyEnd && m_breakTimeRemaining <= 0.5 * duration;
 }
 
-QString BreakManager::formattedBreakTimeRemaining() const {
+QString BreakManager::formattedBreakTimeRemaining() const
+{
     const auto seconds = static_cast<qint64>(std::trunc(m_breakTimeRemaining));
     if (seconds < 60)
         return QString::number(seconds);
     return u"%1:%2"_s.arg(seconds / 60).arg(seconds % 60, 2, 10, QChar(u'0'));
 }
 
-bool BreakManager::isUserTyping(bool delayWhileTyping) const {
+bool BreakManager::isUserTyping(bool delayWhileTyping) const
+{
     if (!delayWhileTyping || isRunningTestSuite(m_environment) || m_keyDownTime == nullptr)
         return false;
     const std::optional<double> seconds = m_keyDownTime->secondsSinceLastKeyDown();
     return seconds && *seconds >= 0 && *seconds < typingWindowSeconds;
 }
 
-bool BreakManager::canSkip() const {
+bool BreakManager::canSkip() const
+{
     const BreakConfiguration& configuration = m_settingsManager->breakConfiguration();
     return (m_state == BreakState::OnBreak && configuration.allowEarlyEnd) ||
            configuration.skipDifficulty != SkipDifficulty::Hardcore;
@@ -161,7 +181,8 @@ bool BreakManager::canSkip() const {
 
 // Timers.
 
-void BreakManager::startTimer(QTimer& timer) {
+void BreakManager::startTimer(QTimer& timer)
+{
     if (isAsleep())
         return;
     // Restarting puts the next tick a full second away, as a newly made timer would.
@@ -170,7 +191,8 @@ void BreakManager::startTimer(QTimer& timer) {
 
 // Operations.
 
-void BreakManager::start() {
+void BreakManager::start()
+{
     if (!m_settingsManager)
         return;
     resetDailyCountIfDayChanged();
@@ -181,7 +203,8 @@ void BreakManager::start() {
     startTimer(m_workTimer);
 }
 
-void BreakManager::stop() {
+void BreakManager::stop()
+{
     setState(BreakState::Idle);
     m_workTimer.stop();
     m_breakTimer.stop();
@@ -189,7 +212,8 @@ void BreakManager::stop() {
     m_preBreakNotificationSent = false;
 }
 
-void BreakManager::takeBreakNow() {
+void BreakManager::takeBreakNow()
+{
     if (isAsleep())
         return;
     m_workTimer.stop();
@@ -197,7 +221,8 @@ void BreakManager::takeBreakNow() {
     startBreak();
 }
 
-void BreakManager::startLongBreak() {
+void BreakManager::startLongBreak()
+{
     if (isAsleep())
         return;
     m_workTimer.stop();
@@ -205,7 +230,8 @@ void BreakManager::startLongBreak() {
     startBreak();
 }
 
-void BreakManager::skipUpcomingBreak() {
+void BreakManager::skipUpcomingBreak()
+{
     if (isAsleep() || !m_settingsManager || !canSkip())
         return;
     switch (m_state) {
@@ -224,7 +250,8 @@ void BreakManager::skipUpcomingBreak() {
     }
 }
 
-void BreakManager::skipBreak() {
+void BreakManager::skipBreak()
+{
     if (isAsleep() || !m_settingsManager || !canSkip())
         return;
     switch (m_state) {
@@ -245,7 +272,8 @@ void BreakManager::skipBreak() {
     }
 }
 
-void BreakManager::restartWorkInterval() {
+void BreakManager::restartWorkInterval()
+{
     if (!m_settingsManager)
         return;
     m_preBreakNotificationSent = false;
@@ -258,7 +286,8 @@ void BreakManager::restartWorkInterval() {
         onTimerUpdate(m_timeRemaining);
 }
 
-void BreakManager::startBreak() {
+void BreakManager::startBreak()
+{
     if (isAsleep() || !m_settingsManager)
         return;
     setState(BreakState::OnBreak);
@@ -275,7 +304,8 @@ void BreakManager::startBreak() {
     startTimer(m_breakTimer);
 }
 
-void BreakManager::endBreak(bool completed) {
+void BreakManager::endBreak(bool completed)
+{
     if (isAsleep() || m_state != BreakState::OnBreak)
         return;
     m_breakTimer.stop();
@@ -293,7 +323,8 @@ void BreakManager::endBreak(bool completed) {
     startTimer(m_workTimer);
 }
 
-void BreakManager::pause() {
+void BreakManager::pause()
+{
     if (m_state != BreakState::Working)
         return;
     setState(BreakState::Paused);
@@ -301,7 +332,8 @@ void BreakManager::pause() {
     setPauseReason(PauseReason::manuallyPaused());
 }
 
-void BreakManager::pauseFor(double seconds) {
+void BreakManager::pauseFor(double seconds)
+{
     pause();
     setPauseReason(PauseReason::manuallyPaused(now().addMSecs(std::llround(seconds * 1000.0))));
     // Never cancelled: an earlier timed pause still resumes a later one when it fires.
@@ -312,7 +344,8 @@ void BreakManager::pauseFor(double seconds) {
     });
 }
 
-void BreakManager::resume() {
+void BreakManager::resume()
+{
     if (m_state != BreakState::Paused)
         return;
     setPauseReason(std::nullopt);
@@ -320,14 +353,16 @@ void BreakManager::resume() {
     startTimer(m_workTimer);
 }
 
-void BreakManager::handleSleep(SleepSource source) {
+void BreakManager::handleSleep(SleepSource source)
+{
     if (!m_sleepingSources.insert(source).second)
         return;
     m_workTimer.stop();
     m_breakTimer.stop();
 }
 
-void BreakManager::handleWake(SleepSource source) {
+void BreakManager::handleWake(SleepSource source)
+{
     if (m_sleepingSources.erase(source) == 0 || isAsleep())
         return;
     resetDailyCountIfDayChanged();
@@ -339,7 +374,8 @@ void BreakManager::handleWake(SleepSource source) {
 
 // Ticks.
 
-void BreakManager::workTick() {
+void BreakManager::workTick()
+{
     if (isAsleep() || !m_settingsManager)
         return;
     resetDailyCountIfDayChanged();
@@ -386,7 +422,8 @@ void BreakManager::workTick() {
     }
 }
 
-void BreakManager::breakTick() {
+void BreakManager::breakTick()
+{
     if (isAsleep() || m_state != BreakState::OnBreak)
         return;
     resetDailyCountIfDayChanged();
@@ -399,15 +436,18 @@ void BreakManager::breakTick() {
 
 // The daily count.
 
-QDateTime BreakManager::now() const {
+QDateTime BreakManager::now() const
+{
     return m_now ? m_now() : QDateTime::currentDateTime();
 }
 
-QDateTime BreakManager::inCalendar(const QDateTime& moment) const {
+QDateTime BreakManager::inCalendar(const QDateTime& moment) const
+{
     return m_calendar ? moment.toTimeZone(*m_calendar) : moment.toLocalTime();
 }
 
-QVariantList BreakManager::dayKey(const QDateTime& moment) const {
+QVariantList BreakManager::dayKey(const QDateTime& moment) const
+{
     const QDate date = inCalendar(moment).date();
     if (!date.isValid())
         return {0, 0, 0, 0};
@@ -416,7 +456,8 @@ QVariantList BreakManager::dayKey(const QDateTime& moment) const {
     return {year > 0 ? 1 : 0, year > 0 ? year : 1 - year, date.month(), date.day()};
 }
 
-bool BreakManager::isStoredDayCurrent(const QDateTime& moment) {
+bool BreakManager::isStoredDayCurrent(const QDateTime& moment)
+{
     const QVariant stored = m_userDefaults.read(DailyCountKeys::date.toString());
     if (stored.typeId() == QMetaType::QVariantList) {
         QList<qint64> storedKey;
@@ -443,12 +484,14 @@ bool BreakManager::isStoredDayCurrent(const QDateTime& moment) {
     return true;
 }
 
-void BreakManager::storeDailyCount(const QDateTime& moment) {
+void BreakManager::storeDailyCount(const QDateTime& moment)
+{
     m_userDefaults.write(DailyCountKeys::count.toString(), m_dailyBreakCount);
     m_userDefaults.write(DailyCountKeys::date.toString(), dayKey(moment));
 }
 
-void BreakManager::resetDailyCountIfDayChanged() {
+void BreakManager::resetDailyCountIfDayChanged()
+{
     const QDateTime moment = now();
     if (isStoredDayCurrent(moment))
         return;

@@ -4,7 +4,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 
-QString PauseReason::displayText(const QDateTime& now) const {
+QString PauseReason::displayText(const QDateTime& now) const
+{
     switch (kind) {
     case PauseKind::ManuallyPaused:
         if (resumesAt && *resumesAt > now) {

@@ -43,7 +43,8 @@ public:
     // The planned end of a timed manual pause.
     std::optional<QDateTime> resumesAt;
 
-    [[nodiscard]] static PauseReason manuallyPaused(std::optional<QDateTime> resumesAt = std::nullopt) {
+    [[nodiscard]] static PauseReason manuallyPaused(std::optional<QDateTime> resumesAt = std::nullopt)
+    {
         return {PauseKind::ManuallyPaused, std::move(resumesAt)};
     }
     [[nodiscard]] static PauseReason outsideOfficeHours() { return {PauseKind::OutsideOfficeHours, {}}; }

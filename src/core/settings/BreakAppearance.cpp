@@ -7,7 +7,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace velto {
 namespace {
 
-constexpr CodableColor rgb(double red, double green, double blue) { return {red, green, blue, 1.0}; }
+constexpr CodableColor rgb(double red, double green, double blue)
+{
+    return {red, green, blue, 1.0};
+}
 
 } // namespace
 

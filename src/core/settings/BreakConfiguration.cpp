@@ -60,8 +60,8 @@ bool BreakConfiguration::timingMatches(BreakPresetKind preset) const
     const std::optional<PresetTiming> wanted = presetTiming(preset);
     if (!wanted)
         return false;
-    if (workInterval != wanted->workInterval || shortBreakDuration != wanted->shortBreakDuration
-        || longBreakEnabled != wanted->longBreakEnabled)
+    if (workInterval != wanted->workInterval || shortBreakDuration != wanted->shortBreakDuration ||
+        longBreakEnabled != wanted->longBreakEnabled)
         return false;
     if (!wanted->longBreakEnabled)
         return true;

@@ -17,7 +17,9 @@ namespace velto {
 // Members the record does not know are ignored, so a newer layout still reads.
 class JsonReader final {
 public:
-    explicit JsonReader(const QJsonObject& object) : m_object(object) {}
+    explicit JsonReader(const QJsonObject& object)
+        : m_object(object)
+    {}
 
     [[nodiscard]] bool ok() const { return m_ok; }
     void fail() { m_ok = false; }

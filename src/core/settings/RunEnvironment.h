@@ -16,7 +16,8 @@ inline constexpr QStringView testSuiteVariable = u"VELTO_TEST_SUITE";
 // Any of these, whatever its value, marks a continuous-integration run.
 [[nodiscard]] inline bool isContinuousIntegration(const QProcessEnvironment& environment)
 {
-    for (const QStringView name : {QStringView(u"CI"), QStringView(u"GITHUB_ACTIONS"), QStringView(u"GITHUB_WORKFLOW")}) {
+    for (const QStringView name :
+         {QStringView(u"CI"), QStringView(u"GITHUB_ACTIONS"), QStringView(u"GITHUB_WORKFLOW")}) {
         if (environment.contains(name.toString()))
             return true;
     }

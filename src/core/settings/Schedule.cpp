@@ -9,7 +9,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace velto {
 namespace {
 
-std::optional<int> component(JsonReader& reader, QStringView key) {
+std::optional<int> component(JsonReader& reader, QStringView key)
+{
     const std::optional<qint64> value = reader.optionalInteger(key);
     if (!value)
         return std::nullopt;
@@ -22,7 +23,8 @@ std::optional<int> component(JsonReader& reader, QStringView key) {
 
 } // namespace
 
-QJsonObject TimeOfDay::toJson() const {
+QJsonObject TimeOfDay::toJson() const
+{
     QJsonObject object;
     if (hour)
         object.insert(u"hour"_s, *hour);
@@ -31,7 +33,8 @@ QJsonObject TimeOfDay::toJson() const {
     return object;
 }
 
-std::optional<TimeOfDay> TimeOfDay::fromJson(const QJsonObject& object) {
+std::optional<TimeOfDay> TimeOfDay::fromJson(const QJsonObject& object)
+{
     JsonReader reader(object);
     TimeOfDay time;
     time.hour = component(reader, u"hour");
@@ -41,11 +44,13 @@ std::optional<TimeOfDay> TimeOfDay::fromJson(const QJsonObject& object) {
     return time;
 }
 
-bool Schedule::isWithinOfficeHours(const QDateTime& moment, const QTimeZone& zone) const {
+bool Schedule::isWithinOfficeHours(const QDateTime& moment, const QTimeZone& zone) const
+{
     return isWithinOfficeHours(moment.toTimeZone(zone));
 }
 
-bool Schedule::isWithinOfficeHours(const QDateTime& local) const {
+bool Schedule::isWithinOfficeHours(const QDateTime& local) const
+{
     if (!isEnabled)
         return true;
     if (!local.isValid())
@@ -58,7 +63,8 @@ bool Schedule::isWithinOfficeHours(const QDateTime& local) const {
     return startTime.minutesSinceMidnight() <= now && now <= endTime.minutesSinceMidnight();
 }
 
-QJsonObject Schedule::toJson() const {
+QJsonObject Schedule::toJson() const
+{
     QJsonArray days;
     for (const Weekday day : activeDays)
         days.append(rawValue(day));
@@ -70,7 +76,8 @@ QJsonObject Schedule::toJson() const {
     };
 }
 
-std::optional<Schedule> Schedule::fromJson(const QJsonObject& object) {
+std::optional<Schedule> Schedule::fromJson(const QJsonObject& object)
+{
     JsonReader reader(object);
     Schedule schedule;
     schedule.isEnabled = reader.boolean(u"isEnabled");

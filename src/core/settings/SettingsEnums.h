@@ -75,7 +75,10 @@ template <typename E>
     return std::nullopt;
 }
 
-[[nodiscard]] inline int rawValue(Weekday day) { return static_cast<int>(day); }
+[[nodiscard]] inline int rawValue(Weekday day)
+{
+    return static_cast<int>(day);
+}
 [[nodiscard]] std::optional<Weekday> weekdayFromRawValue(qint64 raw);
 
 [[nodiscard]] QString title(SkipDifficulty difficulty);

@@ -10,19 +10,22 @@ using namespace Qt::Literals::StringLiterals;
 namespace velto {
 namespace {
 
-QSettings::Format typedIniFormat() {
+QSettings::Format typedIniFormat()
+{
     static const QSettings::Format format =
         QSettings::registerFormat(u"ini"_s, &SettingsFileStore::readTypedIni, &SettingsFileStore::writeTypedIni);
     return format;
 }
 
 // QJsonDocument only holds arrays and objects, so a single value travels inside a one-element array.
-QByteArray encodeScalar(const QJsonValue& value) {
+QByteArray encodeScalar(const QJsonValue& value)
+{
     const QByteArray wrapped = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return wrapped.mid(1, wrapped.size() - 2);
 }
 
-QByteArray encodeValue(const QVariant& value) {
+QByteArray encodeValue(const QVariant& value)
+{
     switch (value.typeId()) {
     case QMetaType::Bool:
         return value.toBool() ? "true" : "false";
@@ -55,7 +58,8 @@ QByteArray encodeValue(const QVariant& value) {
     }
 }
 
-QVariant decodeValue(const QByteArray& text) {
+QVariant decodeValue(const QByteArray& text)
+{
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson('[' + text + ']', &error);
     if (error.error != QJsonParseError::NoError || document.array().size() != 1)
@@ -81,7 +85,8 @@ QVariant decodeValue(const QByteArray& text) {
 
 } // namespace
 
-bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& map) {
+bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& map)
+{
     QString section;
     while (!device.atEnd()) {
         const QByteArray line = device.readLine().trimmed();
@@ -105,7 +110,8 @@ bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& 
     return true;
 }
 
-bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::SettingsMap& map) {
+bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::SettingsMap& map)
+{
     QByteArray text = "# Velto settings: one JSON value per key.\n";
     for (auto it = map.cbegin(); it != map.cend(); ++it) {
         QByteArray key = it.key().toUtf8();
@@ -118,31 +124,38 @@ bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::Settin
 }
 
 SettingsFileStore::SettingsFileStore(const QString& filePath)
-    : m_settings(std::make_unique<QSettings>(filePath, typedIniFormat())) {}
+    : m_settings(std::make_unique<QSettings>(filePath, typedIniFormat()))
+{}
 
 SettingsFileStore::~SettingsFileStore() = default;
 
-QString SettingsFileStore::defaultFilePath() {
+QString SettingsFileStore::defaultFilePath()
+{
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/velto/velto.ini"_s;
 }
 
-QVariant SettingsFileStore::read(const QString& key) const {
+QVariant SettingsFileStore::read(const QString& key) const
+{
     return m_settings->value(key);
 }
 
-void SettingsFileStore::write(const QString& key, const QVariant& value) {
+void SettingsFileStore::write(const QString& key, const QVariant& value)
+{
     m_settings->setValue(key, value);
 }
 
-void SettingsFileStore::remove(const QString& key) {
+void SettingsFileStore::remove(const QString& key)
+{
     m_settings->remove(key);
 }
 
-void SettingsFileStore::sync() {
+void SettingsFileStore::sync()
+{
     m_settings->sync();
 }
 
-QString SettingsFileStore::filePath() const {
+QString SettingsFileStore::filePath() const
+{
     return m_settings->fileName();
 }
 

@@ -11,7 +11,8 @@ SettingsManager::SettingsManager(UserDefaultsStore& userDefaults, LaunchAtLoginC
                                  QObject* parent)
     : QObject(parent)
     , m_userDefaults(userDefaults)
-    , m_launchAtLoginService(launchAtLogin) {
+    , m_launchAtLoginService(launchAtLogin)
+{
     loadSettings();
     m_isLoading = false;
     // Re-applied at every start so the session's login item follows the stored choice.
@@ -19,22 +20,26 @@ SettingsManager::SettingsManager(UserDefaultsStore& userDefaults, LaunchAtLoginC
         m_launchAtLoginService->setEnabled(m_launchAtLogin);
 }
 
-void SettingsManager::saveUnlessLoading() {
+void SettingsManager::saveUnlessLoading()
+{
     if (!m_isLoading)
         saveSettings();
 }
 
-void SettingsManager::setIsEnabled(bool value) {
+void SettingsManager::setIsEnabled(bool value)
+{
     publish(this, m_isEnabled, value, &SettingsManager::isEnabledChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setShowTimerInMenuBar(bool value) {
+void SettingsManager::setShowTimerInMenuBar(bool value)
+{
     publish(this, m_showTimerInMenuBar, value, &SettingsManager::showTimerInMenuBarChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setLaunchAtLogin(bool value) {
+void SettingsManager::setLaunchAtLogin(bool value)
+{
     publish(this, m_launchAtLogin, value, &SettingsManager::launchAtLoginChanged);
     if (m_isLoading)
         return;
@@ -43,7 +48,8 @@ void SettingsManager::setLaunchAtLogin(bool value) {
         m_launchAtLoginService->setEnabled(value);
 }
 
-void SettingsManager::setBreakConfiguration(const BreakConfiguration& value) {
+void SettingsManager::setBreakConfiguration(const BreakConfiguration& value)
+{
     publish(this, m_breakConfiguration, value, &SettingsManager::breakConfigurationChanged);
     if (m_isLoading)
         return;
@@ -52,45 +58,53 @@ void SettingsManager::setBreakConfiguration(const BreakConfiguration& value) {
     saveSettings();
 }
 
-void SettingsManager::setBreakPresetSelection(BreakPresetKind value) {
+void SettingsManager::setBreakPresetSelection(BreakPresetKind value)
+{
     publish(this, m_breakPresetSelection, value, &SettingsManager::breakPresetSelectionChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setSchedule(const Schedule& value) {
+void SettingsManager::setSchedule(const Schedule& value)
+{
     publish(this, m_schedule, value, &SettingsManager::scheduleChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setSmartPauseSettings(const SmartPauseSettings& value) {
+void SettingsManager::setSmartPauseSettings(const SmartPauseSettings& value)
+{
     publish(this, m_smartPauseSettings, value, &SettingsManager::smartPauseSettingsChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setNotificationSettings(const NotificationSettings& value) {
+void SettingsManager::setNotificationSettings(const NotificationSettings& value)
+{
     publish(this, m_notificationSettings, value, &SettingsManager::notificationSettingsChanged);
     saveUnlessLoading();
 }
 
-void SettingsManager::setBreakAppearance(const BreakAppearance& value) {
+void SettingsManager::setBreakAppearance(const BreakAppearance& value)
+{
     publish(this, m_breakAppearance, value, &SettingsManager::breakAppearanceChanged);
     saveUnlessLoading();
 }
 
-bool SettingsManager::readBoolean(QStringView key) const {
+bool SettingsManager::readBoolean(QStringView key) const
+{
     const QVariant stored = m_userDefaults.read(key.toString());
     return stored.typeId() == QMetaType::Bool ? stored.toBool() : true;
 }
 
 template <typename Record>
-std::optional<Record> SettingsManager::readRecord(QStringView key) const {
+std::optional<Record> SettingsManager::readRecord(QStringView key) const
+{
     const QVariant stored = m_userDefaults.read(key.toString());
     if (stored.typeId() != QMetaType::QByteArray)
         return std::nullopt;
     return decodeRecord<Record>(stored.toByteArray());
 }
 
-void SettingsManager::loadSettings() {
+void SettingsManager::loadSettings()
+{
     setIsEnabled(readBoolean(SettingsKeys::isEnabled));
     setShowTimerInMenuBar(readBoolean(SettingsKeys::showTimerInMenuBar));
     setLaunchAtLogin(readBoolean(SettingsKeys::launchAtLogin));
@@ -120,7 +134,8 @@ void SettingsManager::loadSettings() {
     captureBreakBehaviorBaseline();
 }
 
-void SettingsManager::saveSettings() {
+void SettingsManager::saveSettings()
+{
     m_userDefaults.write(SettingsKeys::isEnabled.toString(), m_isEnabled);
     m_userDefaults.write(SettingsKeys::showTimerInMenuBar.toString(), m_showTimerInMenuBar);
     m_userDefaults.write(SettingsKeys::launchAtLogin.toString(), m_launchAtLogin);
@@ -132,7 +147,8 @@ void SettingsManager::saveSettings() {
     m_userDefaults.write(SettingsKeys::breakAppearance.toString(), encodeRecord(m_breakAppearance));
 }
 
-void SettingsManager::resetToDefaults() {
+void SettingsManager::resetToDefaults()
+{
     m_isApplyingBreakPreset = true;
     setIsEnabled(true);
     setShowTimerInMenuBar(true);
@@ -147,7 +163,8 @@ void SettingsManager::resetToDefaults() {
     captureBreakBehaviorBaseline();
 }
 
-void SettingsManager::applyBreakPreset(BreakPresetKind preset) {
+void SettingsManager::applyBreakPreset(BreakPresetKind preset)
+{
     if (const std::optional<PresetTiming> timing = presetTiming(preset)) {
         applyPresetTiming(*timing);
         return;
@@ -156,7 +173,8 @@ void SettingsManager::applyBreakPreset(BreakPresetKind preset) {
     m_breakBehaviorBaseline.reset();
 }
 
-void SettingsManager::applyPresetTiming(const PresetTiming& timing) {
+void SettingsManager::applyPresetTiming(const PresetTiming& timing)
+{
     m_isApplyingBreakPreset = true;
     setBreakConfiguration(BreakConfiguration::withTiming(timing));
     syncBreakPresetSelection();
@@ -164,25 +182,29 @@ void SettingsManager::applyPresetTiming(const PresetTiming& timing) {
     m_isApplyingBreakPreset = false;
 }
 
-void SettingsManager::captureBreakBehaviorBaseline() {
+void SettingsManager::captureBreakBehaviorBaseline()
+{
     if (m_breakPresetSelection == BreakPresetKind::Custom)
         m_breakBehaviorBaseline.reset();
     else
         m_breakBehaviorBaseline = m_breakConfiguration.behaviorSnapshot();
 }
 
-void SettingsManager::syncBreakPresetSelection() {
+void SettingsManager::syncBreakPresetSelection()
+{
     setBreakPresetSelection(m_breakConfiguration.matchingPreset());
 }
 
-void SettingsManager::validateBreakPresetSelection() {
+void SettingsManager::validateBreakPresetSelection()
+{
     if (m_breakPresetSelection == BreakPresetKind::Custom || m_breakConfiguration.timingMatches(m_breakPresetSelection))
         return;
     setBreakPresetSelection(BreakPresetKind::Custom);
     m_breakBehaviorBaseline.reset();
 }
 
-void SettingsManager::breakConfigurationDidChange() {
+void SettingsManager::breakConfigurationDidChange()
+{
     if (m_breakPresetSelection == BreakPresetKind::Custom) {
         m_breakBehaviorBaseline.reset();
         return;

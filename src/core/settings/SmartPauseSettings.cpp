@@ -61,7 +61,8 @@ std::optional<SmartPauseSettings> SmartPauseSettings::fromJson(const QJsonObject
     s.idleThreshold = reader.number(u"idleThreshold");
     s.cooldownAfterActivity = reader.number(u"cooldownAfterActivity");
     for (const QJsonValue& item : reader.array(u"deepFocusApps")) {
-        const std::optional<DeepFocusApp> app = item.isObject() ? DeepFocusApp::fromJson(item.toObject()) : std::nullopt;
+        const std::optional<DeepFocusApp> app =
+            item.isObject() ? DeepFocusApp::fromJson(item.toObject()) : std::nullopt;
         if (!app)
             return std::nullopt;
         s.deepFocusApps.append(*app);

@@ -30,15 +30,17 @@ QString quotedExecArgument(const QString& argument)
 XdgAutostartEntry::XdgAutostartEntry(QString executablePath, QString autostartDirectory)
     : m_executablePath(std::move(executablePath))
     , m_autostartDirectory(std::move(autostartDirectory))
-{
-}
+{}
 
 QString XdgAutostartEntry::defaultDirectory()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/autostart"_s;
 }
 
-QString XdgAutostartEntry::entryPath() const { return m_autostartDirectory + u"/velto.desktop"_s; }
+QString XdgAutostartEntry::entryPath() const
+{
+    return m_autostartDirectory + u"/velto.desktop"_s;
+}
 
 QByteArray XdgAutostartEntry::entryContents() const
 {
@@ -46,13 +48,13 @@ QByteArray XdgAutostartEntry::entryContents() const
                          u"Type=Application\n"
                          u"Name=Velto\n"
                          u"Comment=Reminds you to take breaks\n"
-                         u"Exec="_s
-                         + quotedExecArgument(m_executablePath)
-                         + u"\n"
-                           u"Icon=velto\n"
-                           u"Terminal=false\n"
-                           u"Categories=Utility;\n"
-                           u"X-GNOME-Autostart-enabled=true\n"_s;
+                         u"Exec="_s +
+                         quotedExecArgument(m_executablePath) +
+                         u"\n"
+                         u"Icon=velto\n"
+                         u"Terminal=false\n"
+                         u"Categories=Utility;\n"
+                         u"X-GNOME-Autostart-enabled=true\n"_s;
     return text.toUtf8();
 }
 

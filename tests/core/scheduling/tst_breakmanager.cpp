@@ -13,7 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // 2026-11-23 is a Monday.
-QDateTime at(int day, int hour, int minute, int second = 0) {
+QDateTime at(int day, int hour, int minute, int second = 0)
+{
     return QDateTime(QDate(2026, 11, day), QTime(hour, minute, second), QTimeZone::utc());
 }
 
@@ -25,7 +26,8 @@ struct Announcement {
 // A scheduler on fakes: settings in memory, a clock the test moves, delayed actions the test fires.
 struct Rig {
     explicit Rig(QDateTime start = at(23, 10, 0))
-        : clock(std::move(start)) {
+        : clock(std::move(start))
+    {
         manager = std::make_unique<BreakManager>(defaults, QTimeZone::utc(), [this] { return clock; });
         manager->setSettingsManager(&settings);
         manager->setEnvironment(QProcessEnvironment());
@@ -41,14 +43,16 @@ struct Rig {
         };
     }
 
-    void configure(const std::function<void(BreakConfiguration&)>& edit) {
+    void configure(const std::function<void(BreakConfiguration&)>& edit)
+    {
         BreakConfiguration configuration = settings.breakConfiguration();
         edit(configuration);
         settings.setBreakConfiguration(configuration);
     }
 
     // Lets simulated seconds pass: each running timer ticks once a second, as the event loop would run them.
-    void advance(int seconds) {
+    void advance(int seconds)
+    {
         for (int i = 0; i < seconds; ++i) {
             clock = clock.addSecs(1);
             // A timer started during this second first fires a second later.
@@ -62,7 +66,8 @@ struct Rig {
     }
 
     // Seconds until the next break starts.
-    int advanceUntilBreak(int limit = 100000) {
+    int advanceUntilBreak(int limit = 100000)
+    {
         int seconds = 0;
         while (manager->state() != BreakState::OnBreak && seconds < limit) {
             advance(1);
@@ -102,7 +107,8 @@ private Q_SLOTS:
     void textsForTheMenuAndTheBreakScreen();
 };
 
-void TestBreakManager::workIntervalCountsTicksAndAnnouncesOnce() {
+void TestBreakManager::workIntervalCountsTicksAndAnnouncesOnce()
+{
     Rig rig;
     QCOMPARE(rig.manager->state(), BreakState::Idle);
     rig.manager->start();
@@ -134,7 +140,8 @@ void TestBreakManager::workIntervalCountsTicksAndAnnouncesOnce() {
     QCOMPARE(shortInterval.announcements.size(), 1);
 }
 
-void TestBreakManager::longBreakCycle() {
+void TestBreakManager::longBreakCycle()
+{
     Rig rig;
     rig.configure([](BreakConfiguration& c) {
         c.workInterval = 10;
@@ -177,7 +184,8 @@ void TestBreakManager::longBreakCycle() {
     QCOMPARE(rig.manager->shortBreakCount(), 6);
 }
 
-void TestBreakManager::endingAndSkippingRules() {
+void TestBreakManager::endingAndSkippingRules()
+{
     Rig rig;
     rig.manager->start();
     rig.manager->takeBreakNow();
@@ -245,7 +253,8 @@ void TestBreakManager::endingAndSkippingRules() {
     QCOMPARE(idle.timerUpdates, QList{1200.0});
 }
 
-void TestBreakManager::dailyCountFollowsTheDay() {
+void TestBreakManager::dailyCountFollowsTheDay()
+{
     Rig rig(at(23, 23, 59, 50));
     rig.defaults.values.insert(u"dailyBreakCount"_s, 3);
     rig.defaults.values.insert(u"dailyBreakCountDate"_s, QVariantList{1, 2026, 11, 23});
@@ -290,7 +299,8 @@ void TestBreakManager::dailyCountFollowsTheDay() {
     }
 }
 
-void TestBreakManager::officeHoursAndSmartPauseHoldWithoutResetting() {
+void TestBreakManager::officeHoursAndSmartPauseHoldWithoutResetting()
+{
     Rig rig(at(28, 12, 0)); // Saturday
     Schedule schedule;
     schedule.isEnabled = true;
@@ -347,7 +357,8 @@ void TestBreakManager::officeHoursAndSmartPauseHoldWithoutResetting() {
     QCOMPARE(rig.manager->timeRemaining(), 48.0);
 }
 
-void TestBreakManager::typingHoldsWithoutAReason() {
+void TestBreakManager::typingHoldsWithoutAReason()
+{
     Rig rig;
     rig.manager->start();
     QSignalSpy reasonChanges(rig.manager.get(), &BreakManager::pauseReasonChanged);
@@ -376,7 +387,8 @@ void TestBreakManager::typingHoldsWithoutAReason() {
     QVERIFY(!rig.manager->isUserTyping(true));
 }
 
-void TestBreakManager::sleepFreezesUntilEverySourceWakes() {
+void TestBreakManager::sleepFreezesUntilEverySourceWakes()
+{
     Rig rig;
     rig.manager->start();
     rig.manager->takeBreakNow();
@@ -421,7 +433,8 @@ void TestBreakManager::sleepFreezesUntilEverySourceWakes() {
     QVERIFY(rig.manager->isWorkTimerActive());
 }
 
-void TestBreakManager::manualAndTimedPauses() {
+void TestBreakManager::manualAndTimedPauses()
+{
     Rig rig;
     rig.manager->start();
     rig.advance(600);
@@ -471,7 +484,8 @@ void TestBreakManager::manualAndTimedPauses() {
     QCOMPARE(skipping.manager->pauseReason(), std::nullopt);
 }
 
-void TestBreakManager::stopAndMissingSettings() {
+void TestBreakManager::stopAndMissingSettings()
+{
     Rig rig;
     rig.manager->start();
     rig.manager->takeBreakNow();
@@ -506,7 +520,8 @@ void TestBreakManager::stopAndMissingSettings() {
     QVERIFY(!orphan.canEndBreakEarly());
 }
 
-void TestBreakManager::textsForTheMenuAndTheBreakScreen() {
+void TestBreakManager::textsForTheMenuAndTheBreakScreen()
+{
     const QDateTime now = at(23, 10, 0);
     QCOMPARE(PauseReason::manuallyPaused(now.addMSecs(899500)).displayText(now), u"Paused \u00B7 resumes in 15 min"_s);
     QCOMPARE(PauseReason::manuallyPaused(now.addSecs(30)).displayText(now), u"Paused \u00B7 resumes in 1 min"_s);

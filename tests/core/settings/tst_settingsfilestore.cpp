@@ -13,7 +13,8 @@ class TestSettingsFileStore : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() {
+    void init()
+    {
         // A folder of its own per case: QSettings caches files by path across instances.
         m_dir = std::make_unique<QTemporaryDir>();
         QVERIFY(m_dir->isValid());
@@ -26,7 +27,8 @@ private Q_SLOTS:
 
 private:
     QString path(const QString& name = u"velto.ini"_s) const { return m_dir->filePath(name); }
-    void writeFile(const QByteArray& contents) const {
+    void writeFile(const QByteArray& contents) const
+    {
         QFile file(path());
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(contents);
@@ -35,7 +37,8 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
-void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart() {
+void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart()
+{
     const QByteArray record = R"({"isEnabled":true,"activeDays":[1,2],"note":"a=b # c"})";
     {
         SettingsFileStore store(path());
@@ -85,7 +88,8 @@ void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart() {
     QVERIFY(!map.contains(u"gone"_s));
 }
 
-void TestSettingsFileStore::handEditedAndDamagedLines() {
+void TestSettingsFileStore::handEditedAndDamagedLines()
+{
     writeFile("; a comment\n"
               "# another\n"
               "[General]\n"
@@ -110,7 +114,8 @@ void TestSettingsFileStore::handEditedAndDamagedLines() {
     QCOMPARE(store.read(u"Other/key"_s).toInt(), 1);
 }
 
-void TestSettingsFileStore::binaryJunkReadsAsNothingUseful() {
+void TestSettingsFileStore::binaryJunkReadsAsNothingUseful()
+{
     QByteArray junk;
     for (int i = 0; i < 4096; ++i)
         junk.append(static_cast<char>((i * 7919) % 256));
@@ -122,7 +127,8 @@ void TestSettingsFileStore::binaryJunkReadsAsNothingUseful() {
     QCOMPARE(SettingsFileStore(path()).read(u"isEnabled"_s), QVariant(true));
 }
 
-void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory() {
+void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory()
+{
     // A folder where the file should be cannot be read or written, whoever runs the test.
     QVERIFY(QDir(m_dir->path()).mkpath(u"folder.ini"_s));
     // A file where the folder should be cannot be created at all.
@@ -139,7 +145,8 @@ void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory() {
     QVERIFY(QFileInfo(path(u"folder.ini"_s)).isDir());
 }
 
-void TestSettingsFileStore::defaultPathFollowsXdgConfigHome() {
+void TestSettingsFileStore::defaultPathFollowsXdgConfigHome()
+{
     const QByteArray saved = qgetenv("XDG_CONFIG_HOME");
     qputenv("XDG_CONFIG_HOME", m_dir->path().toUtf8());
     QCOMPARE(SettingsFileStore::defaultFilePath(), m_dir->path() + u"/velto/velto.ini"_s);

@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QStringList allKeys{u"isEnabled"_s,          u"showTimerInMenuBar"_s, u"launchAtLogin"_s,
+const QStringList allKeys{u"isEnabled"_s,          u"showTimerInMenuBar"_s,   u"launchAtLogin"_s,
                           u"breakConfiguration"_s, u"breakPresetSelection"_s, u"schedule"_s,
                           u"smartPauseSettings"_s, u"notificationSettings"_s, u"breakAppearance"_s};
 
@@ -89,8 +89,7 @@ void TestSettingsManager::everyAssignmentNotifiesAfterStoring()
     connect(&settings, &SettingsManager::isEnabledChanged, this,
             [&](bool) { seenInSlot.append(settings.isEnabled()); });
     bool valueBeforeWillChange = true;
-    connect(&settings, &SettingsManager::objectWillChange, this,
-            [&] { valueBeforeWillChange = settings.isEnabled(); });
+    connect(&settings, &SettingsManager::objectWillChange, this, [&] { valueBeforeWillChange = settings.isEnabled(); });
 
     settings.setIsEnabled(true); // unchanged, still announced
     settings.setIsEnabled(false);

@@ -12,7 +12,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QJsonObject parse(const char* json) { return QJsonDocument::fromJson(json).object(); }
+QJsonObject parse(const char* json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
 
 QJsonObject without(QJsonObject object, const QString& key)
 {
@@ -154,7 +157,8 @@ void TestSettingsRecords::matchingPreset_data()
     QTest::newRow("balanced as applied") << configuration(1200, 20, false, 0, 0) << BreakPresetKind::Balanced;
     QTest::newRow("balanced with the first-start long values")
         << configuration(1200, 20, false, 300, 4) << BreakPresetKind::Balanced;
-    QTest::newRow("balanced timing with long breaks on") << configuration(1200, 20, true, 0, 0) << BreakPresetKind::Custom;
+    QTest::newRow("balanced timing with long breaks on")
+        << configuration(1200, 20, true, 0, 0) << BreakPresetKind::Custom;
     QTest::newRow("deep focus") << configuration(2700, 30, true, 300, 3) << BreakPresetKind::DeepFocus;
     QTest::newRow("deep focus every 4th") << configuration(2700, 30, true, 300, 4) << BreakPresetKind::Custom;
     QTest::newRow("eye care") << configuration(900, 15, true, 180, 4) << BreakPresetKind::EyeCare;
@@ -196,8 +200,8 @@ void TestSettingsRecords::scheduleJson()
              QByteArray(R"({"activeDays":[1,2,3,4,5,6,7],"endTime":{"hour":18,"minute":0},"isEnabled":false,)"
                         R"("startTime":{"hour":9,"minute":0}})"));
 
-    const auto read = Schedule::fromJson(parse(
-        R"({"isEnabled":true,"activeDays":[2,2,3],"startTime":{"hour":9},"endTime":{"hour":17,"minute":30}})"));
+    const auto read = Schedule::fromJson(
+        parse(R"({"isEnabled":true,"activeDays":[2,2,3],"startTime":{"hour":9},"endTime":{"hour":17,"minute":30}})"));
     QVERIFY(read);
     QCOMPARE(read->activeDays, (std::set{Weekday::Monday, Weekday::Tuesday}));
     QCOMPARE(read->startTime, (TimeOfDay{9, std::nullopt}));
@@ -222,8 +226,8 @@ void TestSettingsRecords::scheduleJson()
 void TestSettingsRecords::smartPauseSettingsJson()
 {
     const SmartPauseSettings defaults;
-    QVERIFY(defaults.detectMeetings && defaults.detectVideoPlayback && defaults.detectScreenRecording
-            && defaults.detectFullscreenGaming && defaults.detectIdleTime);
+    QVERIFY(defaults.detectMeetings && defaults.detectVideoPlayback && defaults.detectScreenRecording &&
+            defaults.detectFullscreenGaming && defaults.detectIdleTime);
     QCOMPARE(defaults.videoDetectionMode, VideoDetectionMode::FrontmostOnly);
     QCOMPARE(defaults.idleThreshold, 60.0);
     QCOMPARE(defaults.cooldownAfterActivity, 60.0);
