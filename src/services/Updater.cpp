@@ -1,0 +1,297 @@
+#include "Updater.h"
+
+#include "settings/UserDefaultsStore.h"
+
+#include <QHostAddress>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+
+#include <limits>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+
+namespace {
+
+UpdateError makeError(int code, const QString& description, QVariantMap userInfo = {})
+{
+    return UpdateError{UpdaterErrors::domain.toString(), code, std::move(userInfo), description};
+}
+
+} // namespace
+
+Updater::Updater(UpdaterConfiguration configuration, UserDefaultsStore* store, Clock clock, QObject* parent)
+    : QObject(parent)
+    , m_configuration(std::move(configuration))
+    , m_store(store)
+    , m_clock(clock ? std::move(clock) : Clock([] { return QDateTime::currentDateTimeUtc(); }))
+    , m_network(new QNetworkAccessManager(this))
+{
+    m_timeoutTimer.setSingleShot(true);
+    connect(&m_timeoutTimer, &QTimer::timeout, this,
+            [this] { fail(UpdaterErrors::TimedOut, u"The update server did not answer in time."_s); });
+    m_scheduleTimer.setSingleShot(true);
+    connect(&m_scheduleTimer, &QTimer::timeout, this, &Updater::onScheduleTimer);
+}
+
+Updater::~Updater()
+{
+    releaseReply();
+}
+
+void Updater::setUserDriver(std::unique_ptr<UpdateUserDriver> driver)
+{
+    m_userDriver = std::move(driver);
+}
+
+bool Updater::isAllowedFeedUrl(const QUrl& url)
+{
+    if (!url.isValid() || url.host().isEmpty())
+        return false;
+    const QString scheme = url.scheme().toLower();
+    if (scheme == u"https")
+        return true;
+    if (scheme != u"http")
+        return false;
+    const QString host = url.host().toLower();
+    return host == u"localhost" || QHostAddress(host).isLoopback();
+}
+
+bool Updater::start()
+{
+    if (m_started)
+        return true;
+    if (!isAllowedFeedUrl(m_configuration.feedUrl))
+        return false;
+    m_started = true;
+    scheduleNext();
+    return true;
+}
+
+QDateTime Updater::lastUpdateCheckDate() const
+{
+    if (!m_store)
+        return {};
+    return QDateTime::fromString(m_store->read(lastCheckKey.toString()).toString(), Qt::ISODateWithMs);
+}
+
+QString Updater::skippedVersion() const
+{
+    return m_store ? m_store->read(skippedVersionKey.toString()).toString() : QString();
+}
+
+void Updater::checkForUpdates()
+{
+    beginCheck(true);
+}
+
+void Updater::checkForUpdatesInBackground()
+{
+    beginCheck(false);
+}
+
+void Updater::beginCheck(bool userInitiated)
+{
+    if (m_reply) {
+        // The running check answers the user too.
+        m_userInitiated = m_userInitiated || userInitiated;
+        return;
+    }
+    m_userInitiated = userInitiated;
+    m_body.clear();
+    if (!isAllowedFeedUrl(m_configuration.feedUrl)) {
+        // Report on the next turn, like every other outcome, so callers never see re-entrant callbacks.
+        QTimer::singleShot(0, this, [this] {
+            if (!m_reply)
+                fail(UpdaterErrors::FeedInsecure, u"The update feed address is not secure."_s);
+        });
+        return;
+    }
+
+    QNetworkRequest request(m_configuration.feedUrl);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
+    request.setMaximumRedirectsAllowed(5);
+    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    request.setHeader(QNetworkRequest::UserAgentHeader, QString(u"Velto/"_s + m_configuration.hostVersion));
+
+    m_reply = m_network->get(request);
+    QNetworkReply* reply = m_reply;
+    connect(reply, &QNetworkReply::redirected, this, [this, reply](const QUrl& target) {
+        if (isAllowedFeedUrl(target))
+            Q_EMIT reply->redirectAllowed();
+        else
+            fail(UpdaterErrors::FeedInsecure, u"The update feed was redirected to an address that is not secure."_s);
+    });
+    connect(reply, &QNetworkReply::metaDataChanged, this, [this, reply] {
+        const QVariant length = reply->header(QNetworkRequest::ContentLengthHeader);
+        if (length.isValid() && length.toLongLong() > m_configuration.maxFeedBytes)
+            fail(UpdaterErrors::FeedTooLarge, u"The update feed is too large."_s);
+    });
+    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
+        m_body += reply->readAll();
+        if (m_body.size() > m_configuration.maxFeedBytes)
+            fail(UpdaterErrors::FeedTooLarge, u"The update feed is too large."_s);
+    });
+    connect(reply, &QNetworkReply::finished, this, &Updater::onFinished);
+    m_timeoutTimer.start(m_configuration.timeout);
+}
+
+void Updater::releaseReply()
+{
+    m_timeoutTimer.stop();
+    QNetworkReply* reply = m_reply;
+    m_reply = nullptr;
+    if (!reply)
+        return;
+    reply->disconnect(this);
+    reply->abort();
+    reply->deleteLater();
+}
+
+void Updater::onFinished()
+{
+    QNetworkReply* reply = m_reply;
+    if (!reply)
+        return;
+    m_body += reply->readAll();
+    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const auto networkError = reply->error();
+    const QString errorText = reply->errorString();
+    releaseReply();
+
+    if (m_body.size() > m_configuration.maxFeedBytes) {
+        fail(UpdaterErrors::FeedTooLarge, u"The update feed is too large."_s);
+        return;
+    }
+    if (networkError != QNetworkReply::NoError || status < 200 || status > 299) {
+        fail(UpdaterErrors::FeedUnreachable, networkError != QNetworkReply::NoError
+                                                 ? errorText
+                                                 : u"The update server answered with status %1."_s.arg(status));
+        return;
+    }
+    evaluate(std::exchange(m_body, {}));
+}
+
+void Updater::fail(int code, const QString& description)
+{
+    releaseReply();
+    m_body.clear();
+    const UpdateError error = makeError(code, description);
+    if (m_delegate)
+        m_delegate->didNotFindUpdate(error);
+    if (m_userInitiated && m_userDriver)
+        m_userDriver->showUpdaterError(error);
+    conclude();
+}
+
+void Updater::evaluate(const QByteArray& body)
+{
+    const auto items = parseAppcast(body);
+    if (!items) {
+        fail(UpdaterErrors::FeedMalformed, u"The update feed could not be read."_s);
+        return;
+    }
+
+    const AppcastItem* newest = nullptr;
+    const AppcastItem* newestForThisSystem = nullptr;
+    for (const AppcastItem& item : *items) {
+        if (!newest || compareVersions(item.version, newest->version) > 0)
+            newest = &item;
+        const bool fits = item.minimumSystemVersion.isEmpty() || m_configuration.systemVersion.isEmpty() ||
+                          compareVersions(m_configuration.systemVersion, item.minimumSystemVersion) >= 0;
+        if (fits && (!newestForThisSystem || compareVersions(item.version, newestForThisSystem->version) > 0))
+            newestForThisSystem = &item;
+    }
+
+    const QString& host = m_configuration.hostVersion;
+    if (newestForThisSystem && compareVersions(newestForThisSystem->version, host) > 0) {
+        if (newestForThisSystem->version == skippedVersion())
+            reportNotFound(NoUpdateFoundReason::OnLatestVersion);
+        else
+            offer(*newestForThisSystem);
+    } else if (newest && compareVersions(newest->version, host) > 0) {
+        reportNotFound(NoUpdateFoundReason::SystemTooOld);
+    } else if (newest && compareVersions(host, newest->version) > 0) {
+        reportNotFound(NoUpdateFoundReason::OnNewerThanLatestVersion);
+    } else {
+        reportNotFound(NoUpdateFoundReason::OnLatestVersion);
+    }
+}
+
+void Updater::reportNotFound(NoUpdateFoundReason reason)
+{
+    const UpdateError error = makeError(UpdaterErrors::NoUpdateFound, u"Velto is up to date."_s,
+                                        {{UpdaterErrors::noUpdateFoundReasonKey.toString(), int(reason)}});
+    if (m_delegate)
+        m_delegate->didNotFindUpdate(error);
+    if (m_userInitiated && m_userDriver)
+        m_userDriver->showUpdateNotFound(error);
+    conclude();
+}
+
+void Updater::offer(const AppcastItem& item)
+{
+    if (m_delegate)
+        m_delegate->didFindValidUpdate(item);
+    if (m_userInitiated && m_userDriver) {
+        QPointer<Updater> self(this);
+        m_userDriver->showUpdateFound(item, [self, item](UpdateChoice choice) {
+            if (self)
+                self->handleChoice(choice, item);
+        });
+    }
+    conclude();
+}
+
+void Updater::handleChoice(UpdateChoice choice, const AppcastItem& item)
+{
+    if (choice == UpdateChoice::Skip && m_store)
+        m_store->write(skippedVersionKey.toString(), item.version);
+    if (choice == UpdateChoice::Install && m_onOpenUrl && item.downloadPageUrl().isValid())
+        m_onOpenUrl(item.downloadPageUrl());
+    if (m_delegate)
+        m_delegate->userDidMakeChoice(choice, item);
+}
+
+void Updater::conclude()
+{
+    m_userInitiated = false;
+    // Every attempt counts, failed ones too: a day without network should not turn into a check a minute.
+    if (m_store)
+        m_store->write(lastCheckKey.toString(), m_clock().toUTC().toString(Qt::ISODateWithMs));
+    if (m_started)
+        scheduleNext();
+    Q_EMIT checkFinished();
+}
+
+void Updater::scheduleNext()
+{
+    const QDateTime now = m_clock();
+    // Never sooner than a few minutes from now, so a launch is not slowed by a check.
+    const QDateTime earliest = now.addSecs(m_configuration.firstCheckDelay.count());
+    QDateTime next = earliest;
+    const QDateTime last = lastUpdateCheckDate();
+    // A last check in the future means the clock was set back; do not wait for it.
+    if (last.isValid() && last <= now)
+        next = std::max(last.addSecs(m_configuration.checkInterval.count()), earliest);
+    m_nextScheduledCheck = next;
+    const qint64 ms = std::clamp<qint64>(now.msecsTo(next), 0, std::numeric_limits<int>::max());
+    m_scheduleTimer.start(int(ms));
+}
+
+void Updater::onScheduleTimer()
+{
+    // The timer runs on real time and the clock may not; re-arm until the clock agrees the check is due.
+    if (m_clock() < m_nextScheduledCheck) {
+        const qint64 ms =
+            std::clamp<qint64>(m_clock().msecsTo(m_nextScheduledCheck), 1000, std::numeric_limits<int>::max());
+        m_scheduleTimer.start(int(ms));
+        return;
+    }
+    checkForUpdatesInBackground();
+}
+
+} // namespace velto
