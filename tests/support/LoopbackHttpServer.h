@@ -11,11 +11,19 @@
 class LoopbackHttpServer final : public QObject {
 public:
     struct Response {
-        int status = 200;
+        Response(int status_ = 200, QByteArray body_ = {}, bool hang_ = false, bool lieAboutLength_ = false,
+                 QByteArray location_ = {})
+            : status(status_)
+            , body(std::move(body_))
+            , hang(hang_)
+            , lieAboutLength(lieAboutLength_)
+            , location(std::move(location_))
+        {}
+        int status;
         QByteArray body;
-        bool hang = false;           // accept the request and never answer
-        bool lieAboutLength = false; // send no Content-Length, so only the body itself tells the size
-        QByteArray location;         // for redirects
+        bool hang;           // accept the request and never answer
+        bool lieAboutLength; // send no Content-Length, so only the body itself tells the size
+        QByteArray location; // for redirects
     };
 
     LoopbackHttpServer()

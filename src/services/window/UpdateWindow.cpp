@@ -1,0 +1,191 @@
+#include "UpdateWindow.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+
+namespace {
+
+QLabel* headlineLabel(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    QFont font = label->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.2);
+    label->setFont(font);
+    return label;
+}
+
+QLabel* bodyLabel(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+UpdateFoundDialog::UpdateFoundDialog(const AppcastItem& item, const QString& hostVersion,
+                                     std::function<void(UpdateChoice)> reply, QWidget* parent)
+    : QDialog(parent)
+    , m_reply(std::move(reply))
+{
+    setWindowTitle(tr("Software Update"));
+    setObjectName(u"updateFoundDialog"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(headlineLabel(tr("A new version of Velto is available"), this));
+    layout->addWidget(bodyLabel(tr("Velto %1 is available; you have %2. Download it from the website to update.")
+                                    .arg(item.displayVersionString(), hostVersion),
+                                this));
+
+    if (item.releaseNotesUrl.isValid()) {
+        m_notes = new QTextBrowser(this);
+        m_notes->setObjectName(u"releaseNotes"_s);
+        m_notes->setOpenExternalLinks(true);
+        m_notes->setPlaceholderText(tr("Loading release notes…"));
+        m_notes->setMinimumSize(420, 200);
+        layout->addWidget(m_notes, 1);
+    }
+
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* skip = buttons->addButton(u"Skip This Version"_s, QDialogButtonBox::DestructiveRole);
+    QPushButton* later = buttons->addButton(u"Remind Me Later"_s, QDialogButtonBox::RejectRole);
+    QPushButton* download = buttons->addButton(u"Download"_s, QDialogButtonBox::AcceptRole);
+    download->setDefault(true);
+    connect(skip, &QPushButton::clicked, this, [this] { choose(UpdateChoice::Skip); });
+    connect(later, &QPushButton::clicked, this, [this] { choose(UpdateChoice::Dismiss); });
+    connect(download, &QPushButton::clicked, this, [this] { choose(UpdateChoice::Install); });
+    layout->addWidget(buttons);
+}
+
+void UpdateFoundDialog::showReleaseNotes(const QString& html)
+{
+    if (m_notes)
+        m_notes->setHtml(html);
+}
+
+void UpdateFoundDialog::showReleaseNotesUnavailable()
+{
+    if (m_notes)
+        m_notes->setPlaceholderText(tr("The release notes could not be loaded."));
+}
+
+void UpdateFoundDialog::choose(UpdateChoice choice)
+{
+    // Answer once: the buttons and closing the window all end here.
+    if (auto reply = std::exchange(m_reply, {}))
+        reply(choice);
+    QDialog::done(choice == UpdateChoice::Dismiss ? Rejected : Accepted);
+}
+
+void UpdateFoundDialog::done(int result)
+{
+    choose(UpdateChoice::Dismiss);
+    Q_UNUSED(result);
+}
+
+UpdateMessageDialog::UpdateMessageDialog(const QString& headline, const QString& text, QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowTitle(tr("Software Update"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(headlineLabel(headline, this));
+    layout->addWidget(bodyLabel(text, this));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    layout->addWidget(buttons);
+}
+
+UpdateWindowDriver::UpdateWindowDriver(QString hostVersion, qint64 maxNotesBytes, std::chrono::milliseconds timeout)
+    : m_hostVersion(std::move(hostVersion))
+    , m_maxNotesBytes(maxNotesBytes)
+    , m_timeout(timeout)
+    , m_network(std::make_unique<QNetworkAccessManager>())
+{}
+
+UpdateWindowDriver::~UpdateWindowDriver()
+{
+    delete m_window.data();
+}
+
+void UpdateWindowDriver::present(QDialog* window)
+{
+    // One update window at a time: a newer answer replaces the older window, which counts as closed.
+    if (m_window) {
+        m_window->close();
+        delete m_window.data();
+    }
+    m_window = window;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void UpdateWindowDriver::showUpdateFound(const AppcastItem& item, std::function<void(UpdateChoice)> reply)
+{
+    auto* dialog = new UpdateFoundDialog(item, m_hostVersion, std::move(reply));
+    present(dialog);
+    if (item.releaseNotesUrl.isValid())
+        fetchReleaseNotes(item.releaseNotesUrl, dialog);
+}
+
+void UpdateWindowDriver::showUpdateNotFound(const UpdateError& error)
+{
+    const int reason = error.userInfo.value(UpdaterErrors::noUpdateFoundReasonKey.toString()).toInt();
+    const QString text = reason == int(NoUpdateFoundReason::SystemTooOld)
+                             ? QObject::tr("A newer version of Velto exists but needs a newer system than this one.")
+                             : QObject::tr("Velto %1 is the newest version available.").arg(m_hostVersion);
+    present(new UpdateMessageDialog(QObject::tr("Velto is up to date"), text));
+}
+
+void UpdateWindowDriver::showUpdaterError(const UpdateError& error)
+{
+    present(new UpdateMessageDialog(QObject::tr("Velto could not check for updates"), error.description));
+}
+
+void UpdateWindowDriver::fetchReleaseNotes(const QUrl& url, UpdateFoundDialog* dialog)
+{
+    QPointer<UpdateFoundDialog> target(dialog);
+    if (!Updater::isAllowedFeedUrl(url)) {
+        dialog->showReleaseNotesUnavailable();
+        return;
+    }
+    QNetworkRequest request(url);
+    request.setTransferTimeout(int(m_timeout.count()));
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    QNetworkReply* reply = m_network->get(request);
+    // The reply lives with the dialog: closing the window ends the download.
+    reply->setParent(dialog);
+    const qint64 limit = m_maxNotesBytes;
+    QObject::connect(reply, &QNetworkReply::downloadProgress, reply, [reply, limit](qint64 received, qint64 total) {
+        if (received > limit || total > limit)
+            reply->abort();
+    });
+    QObject::connect(reply, &QNetworkReply::finished, reply, [reply, target, limit] {
+        reply->deleteLater();
+        if (!target)
+            return;
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        if (reply->error() != QNetworkReply::NoError || status < 200 || status > 299) {
+            target->showReleaseNotesUnavailable();
+            return;
+        }
+        const QByteArray body = reply->read(limit + 1);
+        if (body.size() > limit) {
+            target->showReleaseNotesUnavailable();
+            return;
+        }
+        target->showReleaseNotes(QString::fromUtf8(body));
+    });
+}
+
+} // namespace velto
