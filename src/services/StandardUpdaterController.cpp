@@ -1,8 +1,20 @@
 #include "StandardUpdaterController.h"
 
 #include "UpdateAvailabilityModel.h"
+#include "VeltoUrls.h"
+
+#include <QSysInfo>
 
 namespace velto {
+
+UpdaterConfiguration defaultUpdaterConfiguration(const QString& hostVersion)
+{
+    UpdaterConfiguration configuration;
+    configuration.feedUrl = QUrl(QString::fromUtf8(urls::feed));
+    configuration.hostVersion = hostVersion;
+    configuration.systemVersion = QSysInfo::kernelVersion();
+    return configuration;
+}
 
 StandardUpdaterController::StandardUpdaterController(UpdaterConfiguration configuration, UserDefaultsStore* store,
                                                      UpdateAvailabilityModel* model,

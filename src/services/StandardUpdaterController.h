@@ -8,6 +8,10 @@ namespace velto {
 
 class UpdateAvailabilityModel;
 
+// The configuration Velto ships with: the feed address from the build, this version, and the kernel release
+// as the system version an item's minimum system version is compared with.
+[[nodiscard]] UpdaterConfiguration defaultUpdaterConfiguration(const QString& hostVersion);
+
 // Creates the updater and starts it at once, with the model as its delegate; the model gets a weak reference
 // to the updater. The controller owns the updater; the model outlives neither requirement.
 class StandardUpdaterController final : public QObject {

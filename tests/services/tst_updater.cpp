@@ -507,6 +507,15 @@ private Q_SLOTS:
         model.checkForUpdates(); // the updater is gone: nothing happens
         QVERIFY(model.updateAvailable());
     }
+
+    // The feed address set at build time must be one the updater will fetch, or Velto never sees an update.
+    void shippedFeedIsFetchable()
+    {
+        const UpdaterConfiguration configuration = defaultUpdaterConfiguration(u"1.0"_s);
+        QVERIFY2(Updater::isAllowedFeedUrl(configuration.feedUrl), qPrintable(configuration.feedUrl.toString()));
+        QCOMPARE(configuration.feedUrl.scheme(), u"https"_s);
+        QCOMPARE(configuration.hostVersion, u"1.0"_s);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestUpdater)

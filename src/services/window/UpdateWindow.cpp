@@ -161,8 +161,15 @@ void UpdateWindowDriver::fetchReleaseNotes(const QUrl& url, UpdateFoundDialog* d
     }
     QNetworkRequest request(url);
     request.setTransferTimeout(int(m_timeout.count()));
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
+    request.setMaximumRedirectsAllowed(5);
     QNetworkReply* reply = m_network->get(request);
+    QObject::connect(reply, &QNetworkReply::redirected, reply, [reply](const QUrl& destination) {
+        if (Updater::isAllowedFeedUrl(destination))
+            Q_EMIT reply->redirectAllowed();
+        else
+            reply->abort();
+    });
     // The reply lives with the dialog: closing the window ends the download.
     reply->setParent(dialog);
     const qint64 limit = m_maxNotesBytes;
