@@ -10,6 +10,8 @@ class BreakManager;
 class LaunchAtLoginService;
 class SettingsFileStore;
 class SettingsManager;
+class StandardUpdaterController;
+class UpdateAvailabilityModel;
 
 // The composition root: builds every long-lived component in order, hands each its collaborators and owns
 // them for the life of the process.
@@ -24,12 +26,15 @@ public:
 
     [[nodiscard]] SettingsManager* settingsManager() const { return m_settingsManager; }
     [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }
+    [[nodiscard]] UpdateAvailabilityModel* updateAvailability() const { return m_updateAvailability; }
 
 private:
     std::unique_ptr<SettingsFileStore> m_userDefaults;
     std::unique_ptr<LaunchAtLoginService> m_launchAtLoginService;
     SettingsManager* m_settingsManager = nullptr;
     BreakManager* m_breakManager = nullptr;
+    UpdateAvailabilityModel* m_updateAvailability = nullptr;
+    StandardUpdaterController* m_updaterController = nullptr;
 };
 
 } // namespace velto
