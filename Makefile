@@ -5,7 +5,7 @@ JOBS ?= 2
 BUILD_TYPE ?= RelWithDebInfo
 CMAKE_ARGS ?=
 
-.PHONY: run test test-sanitize bench deps build build-sanitize format clean
+.PHONY: run test test-sanitize bench deps build build-sanitize format clean screenshots
 
 run: build
 	$(BUILD_DIR)/bin/velto
@@ -21,6 +21,10 @@ test-sanitize: build-sanitize
 bench: build
 	$(BUILD_DIR)/bench/bench_detection_pass
 	$(BUILD_DIR)/bench/bench_timer_drift
+
+# The break screen at 1920×1080, rendered without a display, into docs/screenshots.
+screenshots: build
+	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots docs/screenshots
 
 deps:
 	@bash cmake/install-deps.sh
