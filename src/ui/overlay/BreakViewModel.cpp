@@ -228,7 +228,8 @@ void BreakViewModel::start()
         setCanSkip(true);
         break;
     case SkipDifficulty::Balanced:
-        QTimer::singleShot(2000, this, [this] { setCanSkip(true); });
+        // Precise: a coarse timer may fire up to 5 % early, before the two seconds are up.
+        QTimer::singleShot(2000, Qt::PreciseTimer, this, [this] { setCanSkip(true); });
         break;
     case SkipDifficulty::Hardcore:
         break;

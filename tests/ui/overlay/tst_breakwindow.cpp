@@ -1,0 +1,409 @@
+#include "BackgroundImage.h"
+#include "BreakViewModel.h"
+#include "BreakWindow.h"
+#include "DesktopPicture.h"
+#include "FakeScreenLock.h"
+#include "FakeSoundPlayer.h"
+#include "InMemoryUserDefaults.h"
+#include "scheduling/BreakManager.h"
+#include "settings/SettingsManager.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The offscreen platform reads its screens from this file: three side by side, the middle one taller.
+constexpr char screensConfig[] = R"({"screens": [
+    {"name": "left", "x": 0, "y": 0, "width": 1280, "height": 800},
+    {"name": "middle", "x": 1280, "y": 0, "width": 1920, "height": 1080},
+    {"name": "right", "x": 3200, "y": 0, "width": 1024, "height": 768}
+]})";
+
+struct Rig {
+    Rig()
+    {
+        breaks.setSettingsManager(&settings);
+        configure([](BreakConfiguration& c) { c.skipDifficulty = SkipDifficulty::Balanced; });
+    }
+
+    void configure(const std::function<void(BreakConfiguration&)>& change)
+    {
+        BreakConfiguration value = settings.breakConfiguration();
+        change(value);
+        settings.setBreakConfiguration(value);
+    }
+
+    void appearance(const std::function<void(BreakAppearance&)>& change)
+    {
+        BreakAppearance value = settings.breakAppearance();
+        change(value);
+        settings.setBreakAppearance(value);
+    }
+
+    InMemoryUserDefaults store;
+    SettingsManager settings{store, nullptr};
+    BreakManager breaks{store};
+    FakeSoundPlayer player;
+    FakeScreenLock lock;
+    BreakWindow overlay{&settings, &breaks, &player, &lock};
+};
+
+QQuickItem* find(QQuickWindow* window, const char* name)
+{
+    return window->findChild<QQuickItem*>(QString::fromLatin1(name));
+}
+
+} // namespace
+
+class TestBreakWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void targetScreens();
+    void allScreensCoversEveryScreenInOrder();
+    void mainScreenOnlyTakesThePrimary();
+    void windowsStayOutOfTheWayOfTheWindowManager();
+    void theEngineIsMadeOnFirstUseAndKept();
+    void showTwiceThenOneHideFadesAll();
+    void aShowDuringAFadeOutStartsEmpty();
+    void hideWithoutWindowsStillChimes();
+    void startChimeThenLock();
+    void skipButtonRulesOnScreen();
+    void endBreakButtonEndsTheBreak();
+    void dimLayerOnScreen();
+    void customImageAndItsFallback();
+    void allocationLimitRefusesHugeImages();
+    void desktopPictureSettings();
+};
+
+void TestBreakWindow::initTestCase()
+{
+    // The offscreen platform cannot fade or raise windows and says so on every step of every fade.
+    static QtMessageHandler testLog = nullptr;
+    testLog = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+        if (!message.startsWith(u"This plugin does not support"))
+            testLog(type, context, message);
+    });
+    QCOMPARE(QGuiApplication::screens().size(), 3);
+}
+
+void TestBreakWindow::targetScreens()
+{
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    QCOMPARE(breakTargetScreens(ScreenDisplayMode::AllScreens, screens, screens[1]), screens);
+    QCOMPARE(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, screens, screens[1]), QList<QScreen*>{screens[1]});
+    // No primary reported: the first screen of the list.
+    QCOMPARE(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, screens, nullptr), QList<QScreen*>{screens[0]});
+    QVERIFY(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, {}, nullptr).isEmpty());
+    QVERIFY(breakTargetScreens(ScreenDisplayMode::AllScreens, {}, nullptr).isEmpty());
+}
+
+void TestBreakWindow::allScreensCoversEveryScreenInOrder()
+{
+    Rig rig;
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    QCOMPARE(rig.overlay.windows().size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        QQuickWindow* window = rig.overlay.windows()[i];
+        QCOMPARE(window->screen(), screens[i]);
+        QCOMPARE(window->geometry(), screens[i]->geometry());
+        QVERIFY(window->isVisible());
+        // The view fills its window.
+        QCOMPARE(window->contentItem()->childItems().first()->size(), QSizeF(screens[i]->geometry().size()));
+    }
+    // Each window fades in from transparent to opaque.
+    QCOMPARE(rig.overlay.windows()[0]->opacity(), 0.0);
+    QTRY_COMPARE_WITH_TIMEOUT(rig.overlay.windows()[0]->opacity(), 1.0, 2000);
+}
+
+void TestBreakWindow::mainScreenOnlyTakesThePrimary()
+{
+    Rig rig;
+    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QCOMPARE(rig.overlay.windows().size(), 1);
+    QCOMPARE(rig.overlay.windows().first()->screen(), QGuiApplication::primaryScreen());
+}
+
+void TestBreakWindow::windowsStayOutOfTheWayOfTheWindowManager()
+{
+    Rig rig;
+    rig.breaks.takeBreakNow();
+    QQuickWindow* window = rig.overlay.makeBreakWindow(QGuiApplication::screens()[2], BreakType::Short);
+    QVERIFY(window);
+    const Qt::WindowFlags flags = window->flags();
+    QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
+    QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
+    QCOMPARE(window->geometry(), QGuiApplication::screens()[2]->geometry());
+    delete window;
+}
+
+void TestBreakWindow::theEngineIsMadeOnFirstUseAndKept()
+{
+    Rig rig;
+    QVERIFY(!rig.overlay.engineIfCreated());
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QQmlEngine* engine = rig.overlay.engineIfCreated();
+    QVERIFY(engine);
+    rig.overlay.hide();
+    rig.overlay.show(BreakType::Long);
+    QCOMPARE(rig.overlay.engineIfCreated(), engine);
+}
+
+void TestBreakWindow::showTwiceThenOneHideFadesAll()
+{
+    Rig rig;
+    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    rig.overlay.show(BreakType::Short);
+    QCOMPARE(rig.overlay.windows().size(), 2);
+    QList<QPointer<QQuickWindow>> shown;
+    for (QQuickWindow* window : rig.overlay.windows())
+        shown.append(window);
+
+    rig.overlay.hide();
+    QVERIFY(rig.overlay.windows().isEmpty());
+    // Still on screen while they fade, gone after the fade.
+    QVERIFY(shown[0] && shown[1]);
+    QVERIFY(shown[0]->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!shown[0] && !shown[1], 2000);
+}
+
+void TestBreakWindow::aShowDuringAFadeOutStartsEmpty()
+{
+    Rig rig;
+    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QPointer<QQuickWindow> leaving = rig.overlay.windows().first();
+    rig.overlay.hide();
+    rig.overlay.show(BreakType::Short);
+    QCOMPARE(rig.overlay.windows().size(), 1);
+    QVERIFY(rig.overlay.windows().first() != leaving.data());
+    QPointer<QQuickWindow> staying = rig.overlay.windows().first();
+    QTRY_VERIFY_WITH_TIMEOUT(!leaving, 2000);
+    QVERIFY(staying);
+    QCOMPARE(staying->opacity(), 1.0);
+}
+
+void TestBreakWindow::hideWithoutWindowsStillChimes()
+{
+    Rig rig;
+    rig.overlay.hide();
+    QCOMPARE(rig.player.names(), QStringList{u"Blow"_s});
+    QCOMPARE(rig.player.played.first().volume, rig.settings.notificationSettings().soundVolume);
+
+    NotificationSettings quiet = rig.settings.notificationSettings();
+    quiet.playSoundOnBreakEnd = false;
+    rig.settings.setNotificationSettings(quiet);
+    rig.overlay.hide();
+    QCOMPARE(rig.player.played.size(), 1);
+}
+
+void TestBreakWindow::startChimeThenLock()
+{
+    Rig rig;
+    rig.configure([](BreakConfiguration& c) { c.lockScreenOnBreak = true; });
+    QStringList order;
+    rig.lock.onLock = [&] {
+        order = rig.player.names();
+        order.append(u"lock"_s);
+    };
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QCOMPARE(order, (QStringList{u"Glass"_s, u"lock"_s}));
+    QCOMPARE(rig.lock.lockRequests, 1);
+
+    // No lock available: the overlay still shows and nothing is locked.
+    Rig unavailable;
+    unavailable.configure([](BreakConfiguration& c) { c.lockScreenOnBreak = true; });
+    unavailable.lock.available = false;
+    unavailable.breaks.takeBreakNow();
+    unavailable.overlay.show(BreakType::Short);
+    QCOMPARE(unavailable.overlay.windows().size(), 3);
+    QCOMPARE(unavailable.lock.lockRequests, 0);
+}
+
+void TestBreakWindow::skipButtonRulesOnScreen()
+{
+    Rig rig;
+    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    rig.configure([](BreakConfiguration& c) { c.allowEarlyEnd = false; });
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QQuickWindow* window = rig.overlay.windows().first();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QQuickItem* skip = find(window, "skipButton");
+    QVERIFY(skip);
+    QVERIFY(skip->isVisible());
+    const QPoint centre = skip->mapToScene(QPointF(skip->width() / 2, skip->height() / 2)).toPoint();
+    // Dimmed and deaf for the first two seconds of a balanced break.
+    QCOMPARE(skip->property("usable").toBool(), false);
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre);
+    QCOMPARE(rig.breaks.state(), BreakState::OnBreak);
+    QTRY_VERIFY_WITH_TIMEOUT(skip->property("usable").toBool(), 3000);
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre);
+    QVERIFY(rig.breaks.state() != BreakState::OnBreak);
+
+    // Hardcore without early end: no Skip at all, and End Break never comes.
+    Rig hardcore;
+    hardcore.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    hardcore.configure([](BreakConfiguration& c) {
+        c.allowEarlyEnd = false;
+        c.skipDifficulty = SkipDifficulty::Hardcore;
+    });
+    hardcore.breaks.takeBreakNow();
+    hardcore.overlay.show(BreakType::Short);
+    QQuickWindow* strict = hardcore.overlay.windows().first();
+    QVERIFY(!find(strict, "skipButton")->isVisible());
+    for (int i = 0; i < 19; ++i)
+        hardcore.breaks.breakTick();
+    QVERIFY(!find(strict, "endBreakButton")->isVisible());
+    QCOMPARE(find(strict, "controls")->height(), 0.0);
+}
+
+void TestBreakWindow::endBreakButtonEndsTheBreak()
+{
+    Rig rig;
+    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QQuickWindow* window = rig.overlay.windows().first();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QQuickItem* endBreak = find(window, "endBreakButton");
+    QQuickItem* time = find(window, "timeText");
+    QCOMPARE(time->property("text").toString(), u"20"_s);
+    QVERIFY(!endBreak->isVisible());
+    for (int i = 0; i < 10; ++i)
+        rig.breaks.breakTick();
+    QCOMPARE(time->property("text").toString(), u"10"_s);
+    QVERIFY(endBreak->isVisible());
+    QTest::qWait(50); // let the row lay the new button out
+    const QPoint centre = endBreak->mapToScene(QPointF(endBreak->width() / 2, endBreak->height() / 2)).toPoint();
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre);
+    QVERIFY(rig.breaks.state() != BreakState::OnBreak);
+    QCOMPARE(rig.breaks.dailyBreakCount(), 1);
+}
+
+void TestBreakWindow::dimLayerOnScreen()
+{
+    Rig rig;
+    rig.appearance([](BreakAppearance& a) {
+        a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly;
+        a.backgroundType = BackgroundType::SolidColor;
+        a.backgroundColor = {1, 1, 1, 1};
+        a.overlayOpacity = 0.6;
+    });
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QQuickWindow* window = rig.overlay.windows().first();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QQuickItem* dim = find(window, "dimLayer");
+    QVERIFY(qFuzzyCompare(dim->opacity(), 0.4));
+    // White under black at 0.4 reads as 60 % grey in a corner the content leaves alone.
+    const QImage frame = window->grabWindow();
+    const QColor corner = frame.pixelColor(5, 5);
+    QVERIFY2(qAbs(corner.red() - 153) <= 2, qPrintable(QString::number(corner.red())));
+
+    rig.appearance([](BreakAppearance& a) { a.overlayOpacity = 1.0; });
+    QVERIFY(!dim->isVisible());
+    QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::white));
+}
+
+void TestBreakWindow::customImageAndItsFallback()
+{
+    QTemporaryDir dir;
+    const QString picture = dir.filePath(u"red.png"_s);
+    QImage red(64, 32, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QVERIFY(red.save(picture));
+    const QString corrupt = dir.filePath(u"corrupt.png"_s);
+    QFile file(corrupt);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("\x89PNG\r\n\x1a\n not really");
+    file.close();
+
+    Rig rig;
+    rig.appearance([&](BreakAppearance& a) {
+        a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly;
+        a.backgroundType = BackgroundType::CustomImage;
+        a.customImagePath = picture;
+        a.overlayOpacity = 1.0;
+    });
+    rig.breaks.takeBreakNow();
+    rig.overlay.show(BreakType::Short);
+    QQuickWindow* window = rig.overlay.windows().first();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QVERIFY(find(window, "backgroundImage")->isVisible());
+    QVERIFY(!find(window, "backgroundGradient")->isVisible());
+    QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::red));
+    rig.overlay.hide();
+
+    for (const QString& broken : {corrupt, dir.filePath(u"missing.png"_s), QString()}) {
+        rig.appearance([&](BreakAppearance& a) { a.customImagePath = broken; });
+        rig.overlay.show(BreakType::Short);
+        QQuickWindow* fallback = rig.overlay.windows().first();
+        QVERIFY(!find(fallback, "backgroundImage")->isVisible());
+        QVERIFY(find(fallback, "backgroundGradient")->isVisible());
+        rig.overlay.hide();
+    }
+}
+
+void TestBreakWindow::allocationLimitRefusesHugeImages()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(u"big.png"_s);
+    QImage big(2000, 1000, QImage::Format_RGB32); // about 8 MB decoded
+    big.fill(Qt::blue);
+    QVERIFY(big.save(path));
+    QVERIFY(loadBackgroundImage(path, 1).isNull());
+    QCOMPARE(loadBackgroundImage(path, 64).size(), QSize(2000, 1000));
+    QVERIFY(loadBackgroundImage(dir.filePath(u"none.png"_s)).isNull());
+}
+
+void TestBreakWindow::desktopPictureSettings()
+{
+    QCOMPARE(gnomeWallpaperFromGsettings(u"'file:///usr/share/backgrounds/a%20b.jpg'\n"_s),
+             u"/usr/share/backgrounds/a b.jpg"_s);
+    QCOMPARE(gnomeWallpaperFromGsettings(u"''\n"_s), QString());
+    QCOMPARE(plasmaWallpaperFromConfig(u"[Containments][1][Wallpaper][org.kde.image][General]\n"
+                                       "Image=file:///home/u/Pictures/lake.png\nPreviewImage=x\n"_s),
+             u"/home/u/Pictures/lake.png"_s);
+    QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nImage=/opt/walls/sea.jpg\n"_s), u"/opt/walls/sea.jpg"_s);
+    QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nColor=1,2,3\n"_s), QString());
+}
+
+int main(int argc, char** argv)
+{
+
+    QTemporaryDir configDir;
+    const QString config = configDir.filePath(u"screens.json"_s);
+    QFile file(config);
+    if (!file.open(QIODevice::WriteOnly) || file.write(screensConfig) < 0)
+        return 1;
+    file.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.toLocal8Bit());
+    BreakWindow::useSoftwareRendering();
+    QGuiApplication app(argc, argv);
+    TestBreakWindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_breakwindow.moc"
