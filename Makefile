@@ -21,6 +21,7 @@ test-sanitize: build-sanitize
 bench: build
 	$(BUILD_DIR)/bench/bench_detection_pass
 	$(BUILD_DIR)/bench/bench_timer_drift
+	$(BUILD_DIR)/bench/bench_overlay_show
 
 # The break screen at 1920×1080, rendered without a display, into docs/screenshots.
 screenshots: build

@@ -1,0 +1,143 @@
+// The break overlay on two 1920×1080 screens, off screen with the software renderer: time from show() to the
+// first frame of every window with a cold and with a warm QML engine, the memory the engine adds (PSS), and
+// the CPU a running break costs while the ring glides.
+#include "BreakWindow.h"
+#include "scheduling/BreakManager.h"
+#include "settings/SettingsManager.h"
+#include "settings/UserDefaultsStore.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QGuiApplication>
+#include <QHash>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+using namespace velto;
+
+namespace {
+
+class MemoryStore final : public UserDefaultsStore {
+public:
+    [[nodiscard]] QVariant read(const QString& key) const override { return m_values.value(key); }
+    void write(const QString& key, const QVariant& value) override { m_values.insert(key, value); }
+    void remove(const QString& key) override { m_values.remove(key); }
+
+private:
+    QHash<QString, QVariant> m_values;
+};
+
+// Proportional set size of this process in kilobytes.
+qint64 pssKb()
+{
+    QFile file(u"/proc/self/smaps_rollup"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        if (line.startsWith("Pss:"))
+            return line.mid(4).trimmed().split(' ').first().toLongLong();
+    }
+    return -1;
+}
+
+double cpuSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
+           double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+}
+
+// Milliseconds from show() until every window has drawn its first frame.
+double timeShow(BreakWindow& overlay)
+{
+    QElapsedTimer clock;
+    clock.start();
+    overlay.show(BreakType::Short);
+    int pending = int(overlay.windows().size());
+    QEventLoop loop;
+    for (QQuickWindow* window : overlay.windows()) {
+        QObject::connect(
+            window, &QQuickWindow::frameSwapped, &loop,
+            [&pending, &loop] {
+                if (--pending == 0)
+                    loop.quit();
+            },
+            Qt::SingleShotConnection);
+    }
+    QTimer::singleShot(5000, &loop, &QEventLoop::quit);
+    if (pending > 0)
+        loop.exec();
+    return double(clock.nsecsElapsed()) / 1e6;
+}
+
+void wait(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QTemporaryDir dir;
+    const QString config = dir.filePath(u"screens.json"_s);
+    QFile file(config);
+    if (!file.open(QIODevice::WriteOnly))
+        return 1;
+    file.write(R"({"screens": [{"name": "a", "x": 0, "y": 0, "width": 1920, "height": 1080},
+                              {"name": "b", "x": 1920, "y": 0, "width": 1920, "height": 1080}]})");
+    file.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.toLocal8Bit());
+    BreakWindow::useSoftwareRendering();
+    // The offscreen platform cannot fade windows and says so on every step of every fade.
+    static const QtMessageHandler log = qInstallMessageHandler(nullptr);
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+        if (!message.startsWith(u"This plugin does not support") && log)
+            log(type, context, message);
+    });
+    QGuiApplication app(argc, argv);
+
+    MemoryStore store;
+    SettingsManager settings(store, nullptr);
+    BreakConfiguration configuration = settings.breakConfiguration();
+    configuration.shortBreakDuration = 60;
+    settings.setBreakConfiguration(configuration);
+    BreakManager breaks(store);
+    breaks.setSettingsManager(&settings);
+    BreakWindow overlay(&settings, &breaks, nullptr, nullptr);
+
+    const qint64 pssBefore = pssKb();
+    breaks.takeBreakNow();
+    const double cold = timeShow(overlay);
+    const qint64 pssShown = pssKb();
+    overlay.hide();
+    wait(500);
+    const double warm = timeShow(overlay);
+
+    // Ten seconds of a running break: the scheduler ticks once a second and the ring glides in between.
+    const double cpuStart = cpuSeconds();
+    QElapsedTimer wall;
+    wall.start();
+    wait(10000);
+    const double cpuShare = (cpuSeconds() - cpuStart) / (double(wall.nsecsElapsed()) / 1e9);
+    const qint64 pssRunning = pssKb();
+    overlay.hide();
+
+    std::printf("overlay on %d screens of 1920x1080 (offscreen, software renderer)\n",
+                int(QGuiApplication::screens().size()));
+    std::printf("  show to first frame, cold engine: %.1f ms\n", cold);
+    std::printf("  show to first frame, warm engine: %.1f ms  (target <= 150 ms)\n", warm);
+    std::printf("  PSS before: %lld kB, after first show: %lld kB (+%lld kB), during the break: %lld kB\n", pssBefore,
+                pssShown, pssShown - pssBefore, pssRunning);
+    std::printf("  CPU during the break: %.1f %% of one core  (target <= 15 %%)\n", cpuShare * 100.0);
+    return 0;
+}
