@@ -1,0 +1,190 @@
+#include "shell/MenuBarPresentation.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace velto;
+
+namespace {
+
+const QString dash = MenuBarPresentation::noTime.toString();
+
+QStringList titles(const QList<StatusMenuItem>& items)
+{
+    QStringList out;
+    for (const auto& item : items)
+        out << (item.isSeparator ? u"-"_s : item.title);
+    return out;
+}
+
+const StatusMenuItem* find(const QList<StatusMenuItem>& items, MenuAction action)
+{
+    for (const auto& item : items)
+        if (item.action == action)
+            return &item;
+    return nullptr;
+}
+
+} // namespace
+
+class TestMenuBarPresentation final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void menuTimeTruncatesAndNeverWraps()
+    {
+        QCOMPARE(menuTimeText(1500), u"25:00"_s);
+        QCOMPARE(menuTimeText(1499.4), u"24:59"_s);
+        QCOMPARE(menuTimeText(59.9), u"00:59"_s);
+        QCOMPARE(menuTimeText(3600), u"60:00"_s);
+        QCOMPARE(menuTimeText(-3), u"00:00"_s);
+        QCOMPARE(menuTimeText(std::nan("")), u"00:00"_s);
+    }
+
+    void presentationByStateAndReason_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<int>("reason"); // -1: none
+        QTest::addColumn<QString>("timeText");
+        QTest::addColumn<QString>("statusText");
+        QTest::addColumn<QString>("symbol");
+        QTest::addColumn<int>("primary");
+        QTest::addColumn<bool>("primaryEnabled");
+        QTest::addColumn<QString>("title");
+
+        using S = BreakState;
+        using A = MenuBarPrimaryAction;
+        auto row = [](const char* name, S s, int r, QString t, QString st, QString sym, A a, bool en, QString ti) {
+            QTest::newRow(name) << int(s) << r << t << st << sym << int(a) << en << ti;
+        };
+        row("idle", S::Idle, -1, dash, u"Ready"_s, u"timer"_s, A::TakeBreak, true, u"Ready"_s);
+        row("working", S::Working, -1, u"24:59"_s, u"Until next break"_s, u"timer"_s, A::TakeBreak, true, u"24:59"_s);
+        row("break, first half", S::OnBreak, -1, u"00:15"_s, u"Break in progress"_s, u"cup.and.saucer"_s, A::EndBreak,
+            false, u"00:15"_s);
+        row("paused state", S::Paused, -1, u"24:59"_s, u"Paused"_s, u"pause.circle.fill"_s, A::Resume, true, {});
+        row("manual pause", S::Paused, int(PauseKind::ManuallyPaused), u"24:59"_s, u"Paused \u00B7 resumes in 15 min"_s,
+            u"pause.circle.fill"_s, A::Resume, true, {});
+        row("office hours", S::Working, int(PauseKind::OutsideOfficeHours), u"24:59"_s, u"Outside office hours"_s,
+            u"clock.badge.xmark"_s, A::None, false, {});
+        row("disabled", S::Idle, int(PauseKind::AppDisabled), dash, u"Breaks disabled"_s, u"pause.circle"_s, A::None,
+            false, {});
+        row("smart pause", S::Working, int(PauseKind::SmartActivity), u"24:59"_s, u"Watching video"_s,
+            u"play.rectangle"_s, A::None, false, {});
+    }
+
+    void presentationByStateAndReason()
+    {
+        QFETCH(int, state);
+        QFETCH(int, reason);
+        const QDateTime now(QDate(2026, 3, 2), QTime(9, 0), Qt::UTC);
+        MenuBarInputs in;
+        in.state = BreakState(state);
+        if (reason >= 0)
+            in.pauseReason = PauseReason{PauseKind(reason), now.addSecs(870)};
+        in.timeRemaining = 1499.4;
+        in.breakTimeRemaining = 15.5;
+        in.activityStatusText = u"Watching video"_s;
+        in.activityStatusSymbolName = u"play.rectangle"_s;
+        in.now = now;
+        const auto p = makeMenuBarPresentation(in);
+        QTEST(p.timeText, "timeText");
+        QTEST(p.statusText, "statusText");
+        QTEST(p.symbolName, "symbol");
+        QTEST(int(p.primaryAction), "primary");
+        QTEST(p.primaryActionEnabled, "primaryEnabled");
+        QTEST(p.statusItemTitle, "title");
+    }
+
+    void titleAndAccessibilityFollowTheTimerSwitch()
+    {
+        MenuBarInputs in;
+        in.state = BreakState::Working;
+        in.timeRemaining = 1499.4;
+        auto p = makeMenuBarPresentation(in);
+        QCOMPARE(p.statusItemTitle, u"24:59"_s);
+        QCOMPARE(p.accessibilityLabel(), u"Velto, Until next break"_s);
+        QCOMPARE(p.accessibilityValue(), u"24:59 remaining"_s);
+
+        in.showTimerInMenuBar = false;
+        for (auto state : {BreakState::Idle, BreakState::Working, BreakState::OnBreak, BreakState::Paused}) {
+            in.state = state;
+            p = makeMenuBarPresentation(in);
+            QVERIFY(p.statusItemTitle.isEmpty());
+            QVERIFY(p.timeText != u"Ready"_s);
+        }
+        in.state = BreakState::Idle;
+        in.pauseReason = PauseReason::appDisabled();
+        QCOMPARE(makeMenuBarPresentation(in).accessibilityValue(), u"No active timer"_s);
+    }
+
+    void smartPauseFallsBackWithoutDetectorTexts()
+    {
+        MenuBarInputs in;
+        in.state = BreakState::Working;
+        in.pauseReason = PauseReason::smartActivity();
+        const auto p = makeMenuBarPresentation(in);
+        QCOMPARE(p.statusText, u"Smart Pause active"_s);
+        QCOMPARE(p.symbolName, u"pause.circle"_s);
+        QVERIFY(p.statusItemTitle.isEmpty());
+    }
+
+    void endBreakFollowsEarlyEndRules()
+    {
+        MenuBarInputs in;
+        in.state = BreakState::OnBreak;
+        in.canEndBreakEarly = true;
+        auto p = makeMenuBarPresentation(in);
+        QCOMPARE(p.primaryAction, MenuBarPrimaryAction::EndBreak);
+        QVERIFY(p.primaryActionEnabled);
+        auto items = makeStatusMenuItems(p, {true, 0, false, BreakState::OnBreak, {}});
+        QCOMPARE(find(items, MenuAction::PerformPrimaryMenuAction)->title, u"End Break"_s);
+        QVERIFY(find(items, MenuAction::PerformPrimaryMenuAction)->isEnabled);
+
+        in.allowEarlyEnd = false;
+        p = makeMenuBarPresentation(in);
+        QCOMPARE(p.primaryAction, MenuBarPrimaryAction::None);
+        items = makeStatusMenuItems(p, {true, 0, false, BreakState::OnBreak, {}});
+        QVERIFY(!find(items, MenuAction::PerformPrimaryMenuAction));
+    }
+
+    void menuItemsForWorkingDisabledAndHeld()
+    {
+        MenuBarInputs in;
+        in.state = BreakState::Working;
+        in.timeRemaining = 1499.4;
+        auto items = makeStatusMenuItems(makeMenuBarPresentation(in), {true, 1, true, BreakState::Working, {}});
+        QCOMPARE(titles(items),
+                 (QStringList{u"24:59  Until next break"_s, u"1 breaks today"_s, u"-"_s, u"Disable Velto"_s, u"-"_s,
+                              u"Take a Break"_s, u"Take a Long Break"_s, u"Pause for 15 Minutes"_s, u"-"_s,
+                              u"Settings\u2026"_s, u"-"_s, u"Quit Velto"_s}));
+        QVERIFY(!items[0].isEnabled && !items[1].isEnabled);
+        QCOMPARE(items[0].symbolName, u"timer"_s);
+        QCOMPARE(items.last().shortcut, u"Ctrl+Q"_s);
+        QVERIFY(items.last().symbolName.isEmpty());
+
+        // No long break offered unless long breaks are on.
+        items = makeStatusMenuItems(makeMenuBarPresentation(in), {true, 0, false, BreakState::Working, {}});
+        QVERIFY(!find(items, MenuAction::StartLongBreakFromMenu));
+        QVERIFY(find(items, MenuAction::PauseFromMenu));
+
+        in.state = BreakState::Idle;
+        in.pauseReason = PauseReason::appDisabled();
+        items = makeStatusMenuItems(makeMenuBarPresentation(in), {false, 4, true, BreakState::Idle, in.pauseReason});
+        QCOMPARE(titles(items), (QStringList{u"Breaks disabled"_s, u"-"_s, u"Enable Velto"_s, u"-"_s,
+                                             u"Settings\u2026"_s, u"-"_s, u"Quit Velto"_s}));
+        QCOMPARE(items[0].symbolName, u"pause.circle"_s);
+
+        for (auto reason : {PauseReason::smartActivity(), PauseReason::outsideOfficeHours()}) {
+            in.state = BreakState::Working;
+            in.pauseReason = reason;
+            items = makeStatusMenuItems(makeMenuBarPresentation(in), {true, 2, true, BreakState::Working, reason});
+            QVERIFY(!find(items, MenuAction::PerformPrimaryMenuAction));
+            QVERIFY(!find(items, MenuAction::StartLongBreakFromMenu));
+            QVERIFY(!find(items, MenuAction::PauseFromMenu));
+            QCOMPARE(items[1].title, u"2 breaks today"_s);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMenuBarPresentation)
+#include "tst_menubarpresentation.moc"
