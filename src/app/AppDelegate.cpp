@@ -1,52 +1,294 @@
 #include "AppDelegate.h"
 
-#include "LaunchAtLoginService.h"
+#include "BreakWindow.h"
 #include "StandardUpdaterController.h"
+#include "SystemSleepSignals.h"
 #include "UpdateAvailabilityModel.h"
 #include "UpdateWindow.h"
-#include "XdgAutostartEntry.h"
+#include "detection/ActivityDetector.h"
 #include "scheduling/BreakManager.h"
-#include "settings/SettingsFileStore.h"
 #include "settings/SettingsManager.h"
+#include "tray/StatusItem.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
 
+#include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace velto {
 
-AppDelegate::AppDelegate(QObject* parent)
+AppDelegate::AppDelegate(AppServices services, QObject* parent)
     : QObject(parent)
-    , m_userDefaults(std::make_unique<SettingsFileStore>(SettingsFileStore::defaultFilePath()))
-    , m_launchAtLoginService(std::make_unique<LaunchAtLoginService>(
-          std::make_unique<XdgAutostartEntry>(QCoreApplication::applicationFilePath())))
+    , m_services(std::move(services))
 {
-    m_settingsManager = new SettingsManager(*m_userDefaults, m_launchAtLoginService.get(), this);
+    m_settingsManager = new SettingsManager(*m_services.userDefaults, m_services.launchAtLogin.get(), this);
     // Days and office hours follow the system's local time as it changes.
-    m_breakManager = new BreakManager(*m_userDefaults, std::nullopt, {}, this);
-    m_breakManager->setSettingsManager(m_settingsManager);
+    m_breakManager = new BreakManager(*m_services.userDefaults, std::nullopt, {}, this);
+    m_breakManager->setKeyDownTimeProvider(m_services.keyDownTime.get());
+    // Built now, started only when reminders are on.
+    m_activityDetector = new ActivityDetector(std::move(m_services.detectionProviders), this);
 
     // The updater starts at once and runs its own daily checks; the model publishes what they find.
     m_updateAvailability = new UpdateAvailabilityModel(this);
-    const QString version = QCoreApplication::applicationVersion();
-    m_updaterController =
-        new StandardUpdaterController(defaultUpdaterConfiguration(version), m_userDefaults.get(), m_updateAvailability,
-                                      std::make_unique<UpdateWindowDriver>(version), {}, this);
-    m_updaterController->updater()->setOnOpenUrl([](const QUrl& url) { QDesktopServices::openUrl(url); });
+    if (m_services.runsUpdater) {
+        const QString version = QCoreApplication::applicationVersion();
+        m_updaterController = new StandardUpdaterController(defaultUpdaterConfiguration(version),
+                                                            m_services.userDefaults.get(), m_updateAvailability,
+                                                            std::make_unique<UpdateWindowDriver>(version), {}, this);
+        m_updaterController->updater()->setOnOpenUrl([](const QUrl& url) { QDesktopServices::openUrl(url); });
+    }
 }
 
-// The children write to the store, so they go first.
+// The children write to the store, which the services own, so they go first.
 AppDelegate::~AppDelegate()
 {
+    delete m_breakWindow;
+    delete m_statusItem;
     delete m_updaterController;
+    delete m_activityDetector;
     delete m_breakManager;
     delete m_settingsManager;
 }
 
+BreakWindow* AppDelegate::breakWindow() const
+{
+    return m_breakWindow;
+}
+
+StatusItem* AppDelegate::statusItem() const
+{
+    return m_statusItem;
+}
+
 void AppDelegate::applicationDidFinishLaunching()
 {
-    connect(m_settingsManager, &SettingsManager::isEnabledChanged, m_breakManager,
-            [this](bool enabled) { enabled ? m_breakManager->start() : m_breakManager->stop(); });
-    m_settingsManager->isEnabled() ? m_breakManager->start() : m_breakManager->stop();
+    m_statusItem = new StatusItem(this);
+    m_hasTrayHost = m_statusItem->setUp();
+    if (!m_hasTrayHost)
+        std::fputs("velto: no system tray found; breaks still run, and `velto settings` opens the settings\n", stderr);
+    m_statusItem->onMenuNeedsUpdate = [self = QPointer(this)] {
+        if (self)
+            self->rebuildMenu();
+    };
+    m_statusItem->onAction = [self = QPointer(this)](MenuAction action) {
+        if (self)
+            self->perform(action);
+    };
+    wireComponents();
 }
+
+void AppDelegate::wireComponents()
+{
+    const QPointer<AppDelegate> self(this);
+    m_breakManager->setSettingsManager(m_settingsManager);
+
+    if (auto* sleep = m_services.sleepSignals.get()) {
+        connect(sleep, &SystemSleepSignals::willSleep, m_breakManager, &BreakManager::handleSleep);
+        connect(sleep, &SystemSleepSignals::didWake, m_breakManager, &BreakManager::handleWake);
+    }
+
+    // The overlay follows on the next turn of the event loop, once the scheduler's state has settled.
+    m_breakManager->onBreakStart = [self](BreakType type) {
+        QMetaObject::invokeMethod(
+            self,
+            [self, type] {
+                if (!self)
+                    return;
+                if (!self->m_breakWindow)
+                    self->m_breakWindow =
+                        new BreakWindow(self->m_settingsManager, self->m_breakManager, self->m_services.sounds.get(),
+                                        self->m_services.screenLock.get(), self);
+                self->m_breakWindow->show(type);
+            },
+            Qt::QueuedConnection);
+    };
+    m_breakManager->onBreakEnd = [self] {
+        QMetaObject::invokeMethod(
+            self,
+            [self] {
+                if (self && self->m_breakWindow)
+                    self->m_breakWindow->hide();
+            },
+            Qt::QueuedConnection);
+    };
+
+    connect(m_breakManager, &BreakManager::objectWillChange, this, &AppDelegate::scheduleStatusItemUpdate);
+    connect(m_settingsManager, &SettingsManager::showTimerInMenuBarChanged, this,
+            &AppDelegate::scheduleStatusItemUpdate);
+    scheduleStatusItemUpdate();
+
+    applySmartPauseSettings();
+    m_breakManager->setActivityDetector(m_activityDetector);
+    // The current values were applied just above; these react to later changes only.
+    connect(m_settingsManager, &SettingsManager::smartPauseSettingsChanged, this,
+            &AppDelegate::applySmartPauseSettings);
+    connect(
+        m_settingsManager, &SettingsManager::isEnabledChanged, this, [this](bool enabled) { applyEnabled(enabled); },
+        Qt::QueuedConnection);
+
+    applyEnabled(m_settingsManager->isEnabled());
+    updateStatusItem();
+}
+
+void AppDelegate::applySmartPauseSettings()
+{
+    const SmartPauseSettings settings = m_settingsManager->smartPauseSettings();
+    m_activityDetector->setSettings(settings);
+    m_activityDetector->setIdleThreshold(settings.idleThreshold);
+}
+
+void AppDelegate::applyEnabled(bool enabled)
+{
+    if (enabled) {
+        m_breakManager->start();
+        m_activityDetector->startMonitoring();
+        return;
+    }
+    m_breakManager->stop();
+    m_activityDetector->stopMonitoring();
+    // Stopping ends a running break without announcing it; the overlay must not stay behind.
+    if (m_breakWindow && !m_breakWindow->windows().isEmpty())
+        m_breakWindow->hide();
+}
+
+void AppDelegate::scheduleStatusItemUpdate()
+{
+    // Many fields change in one tick; one refresh after they all settled reads the same values.
+    if (m_statusItemUpdateQueued)
+        return;
+    m_statusItemUpdateQueued = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_statusItemUpdateQueued = false;
+            updateStatusItem();
+        },
+        Qt::QueuedConnection);
+}
+
+MenuBarPresentation AppDelegate::menuBarPresentation() const
+{
+    MenuBarInputs in;
+    in.state = m_breakManager->state();
+    in.pauseReason = m_breakManager->pauseReason();
+    in.timeRemaining = m_breakManager->timeRemaining();
+    in.breakTimeRemaining = m_breakManager->breakTimeRemaining();
+    in.canEndBreakEarly = m_breakManager->canEndBreakEarly();
+    in.showTimerInMenuBar = m_settingsManager->showTimerInMenuBar();
+    in.allowEarlyEnd = m_settingsManager->breakConfiguration().allowEarlyEnd;
+    if (const ActivityDetecting* detector = m_breakManager->activityDetector()) {
+        in.activityStatusText = detector->activityStatusText();
+        in.activityStatusSymbolName = detector->activityStatusSymbolName();
+    }
+    in.now = QDateTime::currentDateTime();
+    return makeMenuBarPresentation(in);
+}
+
+QList<StatusMenuItem> AppDelegate::statusMenuItems() const
+{
+    StatusMenuInputs in;
+    in.isEnabled = m_settingsManager->isEnabled();
+    in.dailyBreakCount = m_breakManager->dailyBreakCount();
+    in.longBreakEnabled = m_settingsManager->breakConfiguration().longBreakEnabled;
+    in.state = m_breakManager->state();
+    in.pauseReason = m_breakManager->pauseReason();
+    return makeStatusMenuItems(menuBarPresentation(), in);
+}
+
+void AppDelegate::updateStatusItem()
+{
+    if (!m_statusItem)
+        return;
+    const MenuBarPresentation presentation = menuBarPresentation();
+    const BreakConfiguration config = m_settingsManager->breakConfiguration();
+    const BreakState state = m_breakManager->state();
+    const bool onBreak = state == BreakState::OnBreak;
+    const double remaining = onBreak ? m_breakManager->breakTimeRemaining() : m_breakManager->timeRemaining();
+    const double total = !onBreak                                                ? config.workInterval
+                         : m_breakManager->currentBreakType() == BreakType::Long ? config.longBreakDuration
+                                                                                 : config.shortBreakDuration;
+    m_statusItem->update(presentation, makeTrayIconFace(presentation, state, remaining, total));
+}
+
+void AppDelegate::rebuildMenu()
+{
+    if (m_statusItem)
+        m_statusItem->rebuildMenu(statusMenuItems());
+}
+
+void AppDelegate::perform(MenuAction action)
+{
+    switch (action) {
+    case MenuAction::ToggleBreakReminders:
+        return toggleBreakReminders();
+    case MenuAction::PerformPrimaryMenuAction:
+        return performPrimaryMenuAction();
+    case MenuAction::StartLongBreakFromMenu:
+        return startLongBreakFromMenu();
+    case MenuAction::PauseFromMenu:
+        return pauseFromMenu();
+    case MenuAction::OpenSettingsFromMenu:
+        return openSettingsFromMenu();
+    case MenuAction::QuitFromMenu:
+        return quitFromMenu();
+    case MenuAction::None:
+        return;
+    }
+}
+
+void AppDelegate::toggleBreakReminders()
+{
+    // The setter saves; starting or stopping follows from the change on the next turn.
+    m_settingsManager->setIsEnabled(!m_settingsManager->isEnabled());
+}
+
+void AppDelegate::performPrimaryMenuAction()
+{
+    // The menu may have stayed open while the state moved on; what counts is the state now.
+    switch (menuBarPresentation().primaryAction) {
+    case MenuBarPrimaryAction::TakeBreak:
+        m_breakManager->takeBreakNow();
+        break;
+    case MenuBarPrimaryAction::Resume:
+        m_breakManager->resume();
+        break;
+    case MenuBarPrimaryAction::EndBreak:
+        if (m_breakManager->canEndBreakEarly())
+            m_breakManager->endBreak(true);
+        break;
+    case MenuBarPrimaryAction::None:
+        break;
+    }
+}
+
+void AppDelegate::startLongBreakFromMenu()
+{
+    m_breakManager->startLongBreak();
+}
+
+void AppDelegate::pauseFromMenu()
+{
+    m_breakManager->pauseFor(15 * 60);
+}
+
+void AppDelegate::openSettingsFromMenu()
+{
+    if (onOpenSettings)
+        onOpenSettings();
+    else
+        std::fputs("velto: the settings window is not available yet\n", stderr);
+}
+
+void AppDelegate::quitFromMenu()
+{
+    if (onQuit)
+        onQuit();
+    else
+        QCoreApplication::quit();
+}
+
+void AppDelegate::triggerTestPreBreakNotification() {}
 
 } // namespace velto

@@ -1,40 +1,81 @@
 #pragma once
 
-#include <QObject>
+#include "AppServices.h"
+#include "shell/MenuBarPresentation.h"
 
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
 #include <memory>
 
 namespace velto {
 
+class ActivityDetector;
 class BreakManager;
-class LaunchAtLoginService;
-class SettingsFileStore;
+class BreakWindow;
 class SettingsManager;
 class StandardUpdaterController;
+class StatusItem;
 class UpdateAvailabilityModel;
 
-// The composition root: builds every long-lived component in order, hands each its collaborators and owns
-// them for the life of the process.
+// The composition root: builds every long-lived component in order, hands each its collaborators, connects
+// them and owns them for the life of the process. There is no main window; quitting happens only through the
+// menu or the command line.
 class AppDelegate final : public QObject {
     Q_OBJECT
 
 public:
-    explicit AppDelegate(QObject* parent = nullptr);
+    explicit AppDelegate(AppServices services, QObject* parent = nullptr);
     ~AppDelegate() override;
 
+    // Sets up the tray icon, then connects the components and starts them when reminders are on.
     void applicationDidFinishLaunching();
+
+    [[nodiscard]] MenuBarPresentation menuBarPresentation() const;
+    [[nodiscard]] QList<StatusMenuItem> statusMenuItems() const;
+    void updateStatusItem();
+    void rebuildMenu();
+
+    // The menu's operations; the command line reaches the same ones.
+    Q_INVOKABLE void toggleBreakReminders();
+    Q_INVOKABLE void performPrimaryMenuAction();
+    Q_INVOKABLE void startLongBreakFromMenu();
+    Q_INVOKABLE void pauseFromMenu();
+    Q_INVOKABLE void openSettingsFromMenu();
+    Q_INVOKABLE void quitFromMenu();
+    Q_INVOKABLE void triggerTestPreBreakNotification();
+    void perform(MenuAction action);
 
     [[nodiscard]] SettingsManager* settingsManager() const { return m_settingsManager; }
     [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }
+    [[nodiscard]] ActivityDetector* activityDetector() const { return m_activityDetector; }
+    [[nodiscard]] BreakWindow* breakWindow() const;
+    [[nodiscard]] StatusItem* statusItem() const;
     [[nodiscard]] UpdateAvailabilityModel* updateAvailability() const { return m_updateAvailability; }
+    [[nodiscard]] const AppServices& services() const { return m_services; }
+
+    // How the settings window opens; until it is set, asking for it says it is not available.
+    std::function<void()> onOpenSettings;
+    // How the process ends; by default the application's event loop quits.
+    std::function<void()> onQuit;
 
 private:
-    std::unique_ptr<SettingsFileStore> m_userDefaults;
-    std::unique_ptr<LaunchAtLoginService> m_launchAtLoginService;
+    void wireComponents();
+    void applySmartPauseSettings();
+    void applyEnabled(bool enabled);
+    void scheduleStatusItemUpdate();
+
+    AppServices m_services;
+    QPointer<StatusItem> m_statusItem;
+    QPointer<BreakWindow> m_breakWindow;
     SettingsManager* m_settingsManager = nullptr;
     BreakManager* m_breakManager = nullptr;
+    ActivityDetector* m_activityDetector = nullptr;
     UpdateAvailabilityModel* m_updateAvailability = nullptr;
     StandardUpdaterController* m_updaterController = nullptr;
+    bool m_statusItemUpdateQueued = false;
+    bool m_hasTrayHost = false;
 };
 
 } // namespace velto

@@ -1,4 +1,5 @@
 #include "AppDelegate.h"
+#include "BreakWindow.h"
 #include "VeltoVersion.h"
 
 #include <QApplication>
@@ -34,11 +35,13 @@ int main(int argc, char* argv[])
     QApplication::setApplicationDisplayName(u"Velto"_s);
     QApplication::setApplicationVersion(QString::fromLatin1(velto::versionString));
     QApplication::setDesktopFileName(u"velto"_s);
+    // Velto's windows draw without a GPU driver; see BreakWindow.
+    velto::BreakWindow::useSoftwareRendering();
     QApplication application(argc, argv);
     // Closing a settings window or a break overlay must never end the process.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    velto::AppDelegate delegate;
+    velto::AppDelegate delegate(velto::AppServices::system());
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

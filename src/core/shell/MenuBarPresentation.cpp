@@ -1,5 +1,6 @@
 #include "MenuBarPresentation.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
@@ -102,6 +103,22 @@ MenuBarPresentation makeMenuBarPresentation(const MenuBarInputs& in)
         }
     }
     return p;
+}
+
+TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakState state, double remaining,
+                              double total)
+{
+    TrayIconFace face;
+    const bool counting = state == BreakState::Working || state == BreakState::OnBreak;
+    if (!counting || presentation.statusItemTitle.isEmpty() || !std::isfinite(remaining))
+        return face;
+    face.showsTimer = true;
+    const double left = std::max(0.0, remaining);
+    const double fraction = total > 0 && std::isfinite(total) ? std::clamp(left / total, 0.0, 1.0) : 0.0;
+    face.ringSteps = static_cast<int>(std::ceil(fraction * TrayIconFace::ringResolution));
+    const auto minutes = static_cast<qint64>(std::ceil(left / 60.0));
+    face.label = minutes < 100 ? QString::number(minutes) : QString::number(minutes / 60) + u"h"_s;
+    return face;
 }
 
 QList<StatusMenuItem> makeStatusMenuItems(const MenuBarPresentation& p, const StatusMenuInputs& in)

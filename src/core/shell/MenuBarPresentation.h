@@ -104,6 +104,27 @@ struct StatusMenuInputs {
     std::optional<PauseReason> pauseReason;
 };
 
+// What the tray icon draws. It changes far less often than the countdown, so the icon is only redrawn when
+// this record changes.
+struct TrayIconFace {
+    // Steps in a full ring; a 22-pixel ring cannot show finer ones.
+    static constexpr int ringResolution = 60;
+
+    // False: the plain Velto icon.
+    bool showsTimer = false;
+    // How much of the ring is left, in steps of 1/ringResolution.
+    int ringSteps = 0;
+    // Minutes left, rounded up ("25" for 24:01); hours from 100 minutes on ("2h").
+    QString label;
+
+    friend bool operator==(const TrayIconFace&, const TrayIconFace&) = default;
+};
+
+// The icon shows the countdown exactly when the title would: working or on a break, with the timer shown.
+// remaining and total are the running countdown and its full length in seconds.
+[[nodiscard]] TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakState state,
+                                            double remaining, double total);
+
 // The menu as it opens: built from a fresh presentation each time, never updated while it stays open.
 [[nodiscard]] QList<StatusMenuItem> makeStatusMenuItems(const MenuBarPresentation& presentation,
                                                         const StatusMenuInputs& inputs);

@@ -147,6 +147,33 @@ private Q_SLOTS:
         QVERIFY(!find(items, MenuAction::PerformPrimaryMenuAction));
     }
 
+    void trayFaceChangesOnlyWithWhatItShows()
+    {
+        MenuBarInputs in;
+        in.state = BreakState::Working;
+        in.timeRemaining = 1499.4;
+        auto p = makeMenuBarPresentation(in);
+        const auto face = makeTrayIconFace(p, BreakState::Working, 1499.4, 1500);
+        QVERIFY(face.showsTimer);
+        QCOMPARE(face.label, u"25"_s);
+        QCOMPARE(face.ringSteps, TrayIconFace::ringResolution);
+        // Ten seconds later the icon is the same picture, so nothing is redrawn.
+        QCOMPARE(makeTrayIconFace(p, BreakState::Working, 1489.4, 1500), face);
+        QCOMPARE(makeTrayIconFace(p, BreakState::Working, 30, 1500).label, u"1"_s);
+        QCOMPARE(makeTrayIconFace(p, BreakState::Working, 0, 1500).ringSteps, 0);
+        QCOMPARE(makeTrayIconFace(p, BreakState::Working, 7200, 7200).label, u"2h"_s);
+        QCOMPARE(makeTrayIconFace(p, BreakState::Working, 500, 0).ringSteps, 0);
+
+        // No title, no timer: the plain icon, whatever the countdown.
+        in.showTimerInMenuBar = false;
+        p = makeMenuBarPresentation(in);
+        QCOMPARE(makeTrayIconFace(p, BreakState::Working, 1499.4, 1500), TrayIconFace{});
+        in.showTimerInMenuBar = true;
+        in.state = BreakState::Idle;
+        p = makeMenuBarPresentation(in);
+        QVERIFY(!makeTrayIconFace(p, BreakState::Idle, 1500, 1500).showsTimer);
+    }
+
     void menuItemsForWorkingDisabledAndHeld()
     {
         MenuBarInputs in;

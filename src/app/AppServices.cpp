@@ -1,0 +1,12 @@
+#include "AppServices.h"
+
+#include "SystemSleepSignals.h"
+
+namespace velto {
+
+AppServices::AppServices() = default;
+AppServices::AppServices(AppServices&&) noexcept = default;
+AppServices& AppServices::operator=(AppServices&&) noexcept = default;
+AppServices::~AppServices() = default;
+
+} // namespace velto

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "detection/DetectionProviders.h"
+#include "scheduling/KeyDownTimeProviding.h"
+#include "scheduling/ScreenLocking.h"
+#include "scheduling/SoundPlaying.h"
+#include "settings/LaunchAtLoginControlling.h"
+#include "settings/UserDefaultsStore.h"
+
+#include <memory>
+
+namespace velto {
+
+class SystemSleepSignals;
+
+// What the shell takes from the platform. system() makes the real ones for this session; tests hand in fakes.
+struct AppServices {
+    std::unique_ptr<UserDefaultsStore> userDefaults;
+    std::unique_ptr<LaunchAtLoginControlling> launchAtLogin;
+    DetectionProviders detectionProviders;
+    std::unique_ptr<KeyDownTimeProviding> keyDownTime;
+    std::unique_ptr<SoundPlaying> sounds;
+    std::unique_ptr<ScreenLocking> screenLock;
+    std::unique_ptr<SystemSleepSignals> sleepSignals;
+    // Off in tests: the updater reaches out to the network on its own schedule.
+    bool runsUpdater = false;
+
+    [[nodiscard]] static AppServices system();
+
+    AppServices();
+    AppServices(AppServices&&) noexcept;
+    AppServices& operator=(AppServices&&) noexcept;
+    ~AppServices();
+};
+
+} // namespace velto

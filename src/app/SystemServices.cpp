@@ -1,0 +1,29 @@
+#include "AppServices.h"
+#include "AudioService.h"
+#include "LaunchAtLoginService.h"
+#include "SystemDetectionProviders.h"
+#include "SystemScreenLock.h"
+#include "SystemSleepSignals.h"
+#include "XdgAutostartEntry.h"
+#include "settings/SettingsFileStore.h"
+
+#include <QCoreApplication>
+
+namespace velto {
+
+AppServices AppServices::system()
+{
+    AppServices services;
+    services.userDefaults = std::make_unique<SettingsFileStore>(SettingsFileStore::defaultFilePath());
+    services.launchAtLogin = std::make_unique<LaunchAtLoginService>(
+        std::make_unique<XdgAutostartEntry>(QCoreApplication::applicationFilePath()));
+    services.detectionProviders = makeSystemDetectionProviders();
+    services.keyDownTime = makeSystemKeyDownTime();
+    services.sounds = std::make_unique<AudioService>();
+    services.screenLock = std::make_unique<SystemScreenLock>();
+    services.sleepSignals = std::make_unique<SystemSleepSignals>();
+    services.runsUpdater = true;
+    return services;
+}
+
+} // namespace velto

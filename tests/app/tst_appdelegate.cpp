@@ -1,0 +1,280 @@
+#include "AppDelegate.h"
+#include "BreakWindow.h"
+#include "FakeDetectionProviders.h"
+#include "FakeKeyDownTime.h"
+#include "FakeLaunchAtLogin.h"
+#include "FakeScreenLock.h"
+#include "FakeSoundPlayer.h"
+#include "InMemoryUserDefaults.h"
+#include "PrivateSystemBus.h"
+#include "SystemSleepSignals.h"
+#include "detection/ActivityDetector.h"
+#include "scheduling/BreakManager.h"
+#include "settings/SettingsManager.h"
+#include "tray/StatusItem.h"
+
+#include <QAction>
+#include <QDBusMessage>
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace velto;
+
+namespace {
+
+// The whole shell on fakes, with the real sleep signals on the test's private buses.
+struct ShellUnderTest {
+    explicit ShellUnderTest(bool enabled = true)
+    {
+        AppServices services;
+        auto store = std::make_unique<InMemoryUserDefaults>();
+        userDefaults = store.get();
+        if (!enabled)
+            store->values.insert(u"isEnabled"_s, false);
+        services.userDefaults = std::move(store);
+        services.launchAtLogin = std::make_unique<FakeLaunchAtLogin>();
+        services.detectionProviders = providers.take();
+        services.keyDownTime = std::make_unique<FakeKeyDownTime>();
+        auto soundPlayer = std::make_unique<FakeSoundPlayer>();
+        sounds = soundPlayer.get();
+        services.sounds = std::move(soundPlayer);
+        services.screenLock = std::make_unique<FakeScreenLock>();
+        services.sleepSignals = std::make_unique<SystemSleepSignals>();
+        delegate = std::make_unique<AppDelegate>(std::move(services));
+        delegate->onQuit = [this] { ++quits; };
+        delegate->applicationDidFinishLaunching();
+    }
+
+    [[nodiscard]] BreakManager& breaks() const { return *delegate->breakManager(); }
+    [[nodiscard]] SettingsManager& settings() const { return *delegate->settingsManager(); }
+
+    FakeDetectionProviders providers;
+    InMemoryUserDefaults* userDefaults = nullptr;
+    FakeSoundPlayer* sounds = nullptr;
+    std::unique_ptr<AppDelegate> delegate;
+    int quits = 0;
+};
+
+QStringList menuTitles(QMenu* menu)
+{
+    QStringList titles;
+    for (QAction* action : menu->actions())
+        titles << (action->isSeparator() ? u"-"_s : action->text());
+    return titles;
+}
+
+QAction* menuAction(QMenu* menu, const QString& title)
+{
+    for (QAction* action : menu->actions())
+        if (action->text() == title)
+            return action;
+    return nullptr;
+}
+
+void turnEventLoop()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+class TestAppDelegate final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY2(m_systemBus.start(), "no private system bus");
+        QVERIFY2(QDBusConnection::sessionBus().isConnected(), "Run this test under dbus-run-session, as ctest does");
+    }
+
+    void launchFollowsTheStoredReminderSwitch()
+    {
+        ShellUnderTest off(false);
+        QCOMPARE(off.breaks().state(), BreakState::Idle);
+        QCOMPARE(off.breaks().pauseReason(), PauseReason::appDisabled());
+        QVERIFY(!off.delegate->activityDetector()->isMonitoring());
+        QCOMPARE(off.delegate->menuBarPresentation().statusText, u"Breaks disabled"_s);
+        QVERIFY(off.delegate->statusItem()->toolTip().contains(u"No active timer"_s));
+
+        ShellUnderTest on;
+        QCOMPARE(on.breaks().state(), BreakState::Working);
+        QCOMPARE(on.breaks().timeRemaining(), on.settings().breakConfiguration().workInterval);
+        QVERIFY(on.delegate->activityDetector()->isMonitoring());
+        QCOMPARE(on.breaks().activityDetector(), static_cast<ActivityDetecting*>(on.delegate->activityDetector()));
+        QVERIFY(on.delegate->statusItem()->toolTip().startsWith(u"Velto 20:00"_s));
+    }
+
+    void togglingSavesFirstThenStartsOrStopsOnTheNextTurn()
+    {
+        ShellUnderTest shell;
+        shell.breaks().workTick();
+        shell.breaks().workTick();
+        shell.delegate->rebuildMenu();
+        QMenu* menu = shell.delegate->statusItem()->menu();
+        menuAction(menu, u"Disable Velto"_s)->trigger();
+        // Saved at once; the scheduler follows once the store is done.
+        QCOMPARE(shell.userDefaults->values.value(u"isEnabled"_s), QVariant(false));
+        QCOMPARE(shell.breaks().state(), BreakState::Working);
+        turnEventLoop();
+        QCOMPARE(shell.breaks().state(), BreakState::Idle);
+        QVERIFY(!shell.delegate->activityDetector()->isMonitoring());
+        shell.delegate->rebuildMenu();
+        QCOMPARE(menuTitles(menu), (QStringList{u"Breaks disabled"_s, u"-"_s, u"Enable Velto"_s, u"-"_s,
+                                                u"Settings\u2026"_s, u"-"_s, u"Quit Velto"_s}));
+
+        // Enabling starts a full interval, not the remainder of the old one.
+        menuAction(menu, u"Enable Velto"_s)->trigger();
+        turnEventLoop();
+        QCOMPARE(shell.breaks().state(), BreakState::Working);
+        QCOMPARE(shell.breaks().timeRemaining(), shell.settings().breakConfiguration().workInterval);
+        QVERIFY(shell.delegate->activityDetector()->isMonitoring());
+    }
+
+    void menuActionsReachTheScheduler()
+    {
+        ShellUnderTest shell;
+        shell.breaks().workTick();
+        QMenu* menu = shell.delegate->statusItem()->menu();
+        shell.delegate->rebuildMenu();
+        menuAction(menu, u"Pause for 15 Minutes"_s)->trigger();
+        QCOMPARE(shell.breaks().state(), BreakState::Paused);
+        QVERIFY(shell.breaks().pauseReason()->resumesAt.has_value());
+        shell.delegate->rebuildMenu();
+        // Whole minutes left plus one: 16 while the first millisecond lasts, 15 after.
+        QVERIFY(QRegularExpression(u"^19:59  Paused \u00B7 resumes in 1[56] min$"_s)
+                    .match(menuTitles(menu).first())
+                    .hasMatch());
+        menuAction(menu, u"Resume"_s)->trigger();
+        QCOMPARE(shell.breaks().state(), BreakState::Working);
+
+        // A primary action picked from a menu that stayed open is judged on the state now.
+        shell.delegate->rebuildMenu();
+        QAction* takeBreak = menuAction(menu, u"Take a Break"_s);
+        shell.breaks().pause();
+        takeBreak->trigger();
+        QCOMPARE(shell.breaks().state(), BreakState::Working);
+
+        shell.delegate->rebuildMenu();
+        menuAction(menu, u"Quit Velto"_s)->trigger();
+        QCOMPARE(shell.quits, 1);
+    }
+
+    void breaksShowTheOverlayOnTheNextTurnAndHideIt()
+    {
+        ShellUnderTest shell;
+        shell.breaks().takeBreakNow();
+        QCOMPARE(shell.breaks().state(), BreakState::OnBreak);
+        // Not yet: the overlay follows once the scheduler's state has settled.
+        QVERIFY(!shell.delegate->breakWindow());
+        turnEventLoop();
+        BreakWindow* window = shell.delegate->breakWindow();
+        QVERIFY(window);
+        QCOMPARE(window->windows().size(), QGuiApplication::screens().size());
+        QCOMPARE(shell.sounds->names(), QStringList{u"Glass"_s});
+
+        // End Break becomes available in the second half only.
+        QVERIFY(!shell.delegate->menuBarPresentation().primaryActionEnabled);
+        for (int i = 0; i < 11; ++i)
+            shell.breaks().breakTick();
+        QVERIFY(shell.delegate->menuBarPresentation().primaryActionEnabled);
+        shell.delegate->performPrimaryMenuAction();
+        QCOMPARE(shell.breaks().state(), BreakState::Working);
+        QCOMPARE(shell.breaks().dailyBreakCount(), 1);
+        turnEventLoop();
+        QVERIFY(window->windows().isEmpty());
+        QCOMPARE(shell.sounds->names(), (QStringList{u"Glass"_s, u"Blow"_s}));
+
+        // The same controller serves the next break.
+        shell.breaks().takeBreakNow();
+        turnEventLoop();
+        QCOMPARE(shell.delegate->breakWindow(), window);
+        // Switching reminders off mid-break takes the overlay away too.
+        shell.settings().setIsEnabled(false);
+        turnEventLoop();
+        QVERIFY(window->windows().isEmpty());
+    }
+
+    void statusItemRefreshesOnceAfterTheTickAndRedrawsOnlyOnChange()
+    {
+        ShellUnderTest shell;
+        StatusItem* item = shell.delegate->statusItem();
+        turnEventLoop();
+        const int redraws = item->iconRedraws();
+        const QString before = item->toolTip();
+        shell.breaks().workTick();
+        QCOMPARE(item->toolTip(), before);
+        turnEventLoop();
+        QVERIFY(item->toolTip().startsWith(u"Velto 19:59"_s));
+        // Ten seconds move the text but not the picture.
+        for (int i = 0; i < 9; ++i) {
+            shell.breaks().workTick();
+            turnEventLoop();
+        }
+        QCOMPARE(item->iconRedraws(), redraws);
+        QVERIFY(item->toolTip().startsWith(u"Velto 19:50"_s));
+
+        // Hiding the timer draws the plain icon once, and the title goes.
+        shell.settings().setShowTimerInMenuBar(false);
+        turnEventLoop();
+        QCOMPARE(item->iconRedraws(), redraws + 1);
+        QVERIFY(item->toolTip().startsWith(u"Velto\n"_s));
+    }
+
+    void smartPauseChangesReachTheDetectorWithoutResettingTheCountdown()
+    {
+        ShellUnderTest shell;
+        shell.breaks().workTick();
+        const double remaining = shell.breaks().timeRemaining();
+        SmartPauseSettings changed = shell.settings().smartPauseSettings();
+        changed.idleThreshold = 300;
+        changed.detectVideoPlayback = !changed.detectVideoPlayback;
+        shell.settings().setSmartPauseSettings(changed);
+        QCOMPARE(shell.delegate->activityDetector()->settings(), changed);
+        QCOMPARE(shell.delegate->activityDetector()->idleThreshold(), 300.0);
+        QCOMPARE(shell.breaks().timeRemaining(), remaining);
+        QVERIFY(shell.delegate->activityDetector()->isMonitoring());
+    }
+
+    void sleepSignalsFreezeTheCountdown()
+    {
+        ShellUnderTest shell;
+        shell.breaks().workTick();
+        const double remaining = shell.breaks().timeRemaining();
+        auto emitSignal = [](QDBusConnection bus, const QString& path, const QString& interface, const QString& name,
+                             bool value) {
+            QDBusMessage message = QDBusMessage::createSignal(path, interface, name);
+            message << value;
+            QVERIFY(bus.send(message));
+        };
+        auto system = QDBusConnection::connectToBus(m_systemBus.address(), u"fake-logind"_s);
+        // Only logind may say the machine sleeps.
+        QVERIFY(system.registerService(u"org.freedesktop.login1"_s));
+        emitSignal(system, u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s,
+                   true);
+        QTRY_VERIFY(shell.breaks().sleepingSources().count(SleepSource::System));
+        QVERIFY(!shell.breaks().isWorkTimerActive());
+        emitSignal(system, u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s,
+                   false);
+        QTRY_VERIFY(shell.breaks().sleepingSources().empty());
+
+        auto session = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"fake-screensaver"_s);
+        emitSignal(session, u"/org/gnome/ScreenSaver"_s, u"org.gnome.ScreenSaver"_s, u"ActiveChanged"_s, true);
+        QTRY_VERIFY(shell.breaks().sleepingSources().count(SleepSource::Display));
+        emitSignal(session, u"/org/gnome/ScreenSaver"_s, u"org.gnome.ScreenSaver"_s, u"ActiveChanged"_s, false);
+        QTRY_VERIFY(shell.breaks().sleepingSources().empty());
+        QCOMPARE(shell.breaks().timeRemaining(), remaining);
+        QVERIFY(shell.breaks().isWorkTimerActive());
+        QDBusConnection::disconnectFromBus(u"fake-logind"_s);
+        QDBusConnection::disconnectFromBus(u"fake-screensaver"_s);
+    }
+
+private:
+    PrivateSystemBus m_systemBus;
+};
+
+QTEST_MAIN(TestAppDelegate)
+#include "tst_appdelegate.moc"
