@@ -26,6 +26,7 @@ bench: build
 # The break screen at 1920×1080, rendered without a display, into docs/screenshots.
 screenshots: build
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots docs/screenshots
+	$(BUILD_DIR)/tools/screenshots/velto_screenshots_tray docs/screenshots
 
 deps:
 	@bash cmake/install-deps.sh
