@@ -22,6 +22,7 @@ bench: build
 	$(BUILD_DIR)/bench/bench_detection_pass
 	$(BUILD_DIR)/bench/bench_timer_drift
 	$(BUILD_DIR)/bench/bench_overlay_show
+	bench/footprint.sh $(BUILD_DIR)
 
 # The break screen at 1920×1080, rendered without a display, into docs/screenshots.
 screenshots: build

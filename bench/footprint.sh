@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# Velto's footprint as a desktop user would see it: the real binary on a private Xvfb display and session bus,
+# with a stand-in tray host. After 30 s of settling it samples 60 s of idle running and prints PSS (MB, from
+# /proc smaps_rollup), CPU (% of one core) and wake-ups per second (context switches of all its threads).
+# Then it shows a break, a pre-break card and the settings window, closes them, and prints PSS again.
+# Usage: bench/footprint.sh [BUILD_DIR]    (takes about three minutes)
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+build=$(cd "${1:-$here/../build}" && pwd)
+
+if [ -z "${VELTO_FOOTPRINT_INNER:-}" ]; then
+    export VELTO_FOOTPRINT_INNER=1
+    exec dbus-run-session -- "$here/../tests/support/run-with-xvfb.sh" "$0" "$build"
+fi
+
+velto="$build/bin/velto"
+home=$(mktemp -d)
+trap 'kill "${app:-}" "${host:-}" 2>/dev/null; rm -rf "$home"' EXIT
+export HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_DATA_HOME="$home/.local/share" XDG_CACHE_HOME="$home/.cache"
+# Short breaks and a short interval would skew an idle reading; the defaults (20 min, 20 s) are what people run.
+"$build/bench/bench_tray_host" >/dev/null &
+host=$!
+sleep 0.5
+"$velto" >/dev/null 2>&1 &
+app=$!
+
+pss_mb() { awk '/^Pss:/ {printf "%.1f", $2 / 1024}' "/proc/$app/smaps_rollup"; }
+cpu_ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
+switches() {
+    local total=0 n
+    for status in /proc/"$app"/task/*/status; do
+        n=$(awk '/ctxt_switches/ {s += $2} END {print s + 0}' "$status" 2>/dev/null || echo 0)
+        total=$((total + n))
+    done
+    echo "$total"
+}
+
+sleep 30
+kill -0 "$app" || { echo "velto did not keep running" >&2; exit 1; }
+hz=$(getconf CLK_TCK)
+t0=$(cpu_ticks); s0=$(switches); start=$(date +%s.%N)
+sleep 60
+t1=$(cpu_ticks); s1=$(switches); end=$(date +%s.%N)
+awk -v pss="$(pss_mb)" -v t="$((t1 - t0))" -v s="$((s1 - s0))" -v hz="$hz" -v a="$start" -v b="$end" 'BEGIN {
+    e = b - a
+    printf "idle, before any window:  PSS %s MB   CPU %.2f %%   wake-ups %.2f /s\n", pss, 100 * t / hz / e, s / e
+}'
+
+call() { dbus-send --session --print-reply --dest=com.velto.app /com/velto/app "com.velto.app.Control.$1" "${@:2}" >/dev/null; }
+call takeBreakNow
+sleep 26   # a 20 s break, its fades and the next turn
+call triggerTestPreBreakNotification
+sleep 10   # shown for 8 s, then it slides away
+if call openSettings; then
+    sleep 3
+    # Closing the window as a user would: the window manager-less display takes a plain close request.
+    xdotool search --name "Velto Settings" windowclose >/dev/null 2>&1 || true
+    sleep 2
+fi
+sleep 5
+printf 'after a break, a card and the settings window: PSS %s MB\n' "$(pss_mb)"
