@@ -45,4 +45,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestSystemSleepSignals)
-#include "tst_systemsleepsleepSignals.moc"
+#include "tst_systemsleepsignals.moc"
