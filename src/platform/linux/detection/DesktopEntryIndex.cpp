@@ -90,8 +90,12 @@ QString executableOf(const QString& exec)
     qsizetype i = 0;
     if (i < arguments.size() && QFileInfo(arguments[i]).fileName() == u"env"_s) {
         ++i;
-        while (i < arguments.size() && (arguments[i].contains(u'=') || arguments[i].startsWith(u'-')))
+        while (i < arguments.size() && (arguments[i].contains(u'=') || arguments[i].startsWith(u'-'))) {
+            // These options of env take the next argument as their value.
+            if (arguments[i] == u"-u"_s || arguments[i] == u"-C"_s || arguments[i] == u"-S"_s)
+                ++i;
             ++i;
+        }
     }
     if (i >= arguments.size())
         return {};
