@@ -83,7 +83,9 @@ void TestDesktopEntryIndex::rejectsWhatIsNoVisibleApplication_data()
     QTest::newRow("no name") << "[Desktop Entry]\nType=Application\n"_ba;
     QTest::newRow("no main group") << "[Other]\nType=Application\nName=A\n"_ba;
     QTest::newRow("keys before any group") << "Type=Application\nName=A\n"_ba;
-    QTest::newRow("binary") << QByteArray("\x7f" "ELF\0\0\0[Desktop", 14);
+    QTest::newRow("binary") << QByteArray("\x7f"
+                                          "ELF\0\0\0[Desktop",
+                                          14);
     QTest::newRow("empty") << QByteArray();
 }
 
