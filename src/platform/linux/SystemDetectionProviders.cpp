@@ -1,0 +1,40 @@
+#include "SystemDetectionProviders.h"
+
+#include "detection/SystemDeviceUsage.h"
+#include "detection/SystemMediaProviders.h"
+#include "detection/SystemX11Providers.h"
+#include "detection/X11KeyDownTime.h"
+
+namespace velto {
+
+DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryIndex> desktopEntries)
+{
+    if (!desktopEntries)
+        desktopEntries = std::make_shared<DesktopEntryIndex>();
+    auto x11 = std::make_shared<X11Link>();
+    auto identities = std::make_shared<AppIdentityResolver>(std::move(desktopEntries), ProcessTable());
+    auto memo = std::make_shared<WindowClassMemo>();
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+
+    DetectionProviders providers;
+    providers.workspace = std::make_unique<SystemWorkspace>(x11, identities, memo);
+    providers.windowList = std::make_unique<SystemWindowList>(x11);
+    providers.screen = std::make_unique<SystemScreen>(x11);
+    providers.idleTime = std::make_unique<SystemIdleTime>(x11, bus);
+    providers.camera = std::make_unique<SystemCameraUsage>();
+    providers.microphone = std::make_unique<SystemMicrophoneUsage>();
+    providers.videoPlayback = std::make_unique<SystemVideoPlayback>(bus);
+    providers.screenRecording = std::make_unique<SystemScreenRecordingState>(x11, std::make_shared<PipeWireCapture>());
+    providers.appCategory = std::make_unique<SystemAppCategory>(identities, memo);
+    providers.clock = std::make_unique<SystemClock>();
+    return providers;
+}
+
+std::unique_ptr<KeyDownTimeProviding> makeSystemKeyDownTime()
+{
+    if (auto listener = X11KeyDownTime::start())
+        return listener;
+    return std::make_unique<NullKeyDownTime>();
+}
+
+} // namespace velto

@@ -1,0 +1,118 @@
+#include "SystemX11Providers.h"
+
+#include "X11Queries.h"
+
+#include <QDBusMessage>
+#include <QDBusVariant>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+
+SystemWorkspace::SystemWorkspace(std::shared_ptr<X11Link> x11, std::shared_ptr<AppIdentityResolver> identities,
+                                 std::shared_ptr<WindowClassMemo> memo)
+    : m_x11(std::move(x11))
+    , m_identities(std::move(identities))
+    , m_memo(std::move(memo))
+{}
+
+QList<AppSnapshot> SystemWorkspace::runningApplications() const
+{
+    const auto session = m_x11->session(m_log);
+    if (!session)
+        return {};
+    const X11Queries::Clients clients = X11Queries::clients(*session);
+    QList<AppSnapshot> applications;
+    QHash<qint32, WindowClassMemo::Classes> classes;
+    for (const X11Queries::Client& client : clients.clients) {
+        if (client.pid <= 0 || classes.contains(client.pid))
+            continue;
+        classes.insert(client.pid, {client.wmInstance, client.wmClass});
+        AppSnapshot app;
+        app.processIdentifier = client.pid;
+        app.isActive = client.pid == clients.activePid;
+        app.bundleIdentifier = m_identities->identity(client.pid, client.wmInstance, client.wmClass);
+        applications.append(app);
+    }
+    m_memo->replace(std::move(classes));
+    return applications;
+}
+
+SystemWindowList::SystemWindowList(std::shared_ptr<X11Link> x11)
+    : m_x11(std::move(x11))
+{}
+
+QList<WindowDescriptor> SystemWindowList::onScreenWindows() const
+{
+    const auto session = m_x11->session(m_log);
+    if (!session)
+        return {};
+    QList<WindowDescriptor> windows;
+    for (const X11Queries::OnScreenWindow& window : X11Queries::onScreenWindows(*session, false))
+        windows.append({window.pid, window.frame, window.layer});
+    return windows;
+}
+
+QList<TitledWindow> SystemWindowList::titledWindows() const
+{
+    const auto session = m_x11->session(m_log);
+    if (!session)
+        return {};
+    QList<TitledWindow> windows;
+    for (const X11Queries::OnScreenWindow& window : X11Queries::onScreenWindows(*session, true))
+        windows.append({window.pid, window.title});
+    return windows;
+}
+
+SystemScreen::SystemScreen(std::shared_ptr<X11Link> x11)
+    : m_x11(std::move(x11))
+{}
+
+QRectF SystemScreen::mainScreenFrame() const
+{
+    const auto session = m_x11->session(m_log);
+    if (!session)
+        return {};
+    return X11Queries::primaryScreenFrame(*session);
+}
+
+SystemIdleTime::SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus)
+    : m_x11(std::move(x11))
+    , m_bus(std::move(sessionBus))
+{}
+
+double SystemIdleTime::secondsSinceLastInput() const
+{
+    if (const auto session = m_x11->session(m_log)) {
+        if (const auto milliseconds = X11Queries::millisecondsSinceInput(*session))
+            return *milliseconds / 1000.0;
+        m_log.warn(u"x11-screensaver"_s, u"The X server has no screen-saver extension; asking D-Bus for idle time"_s);
+    }
+    return busIdleSeconds().value_or(0.0);
+}
+
+std::optional<double> SystemIdleTime::busIdleSeconds() const
+{
+    if (!m_bus.isConnected()) {
+        m_log.warn(u"idle-bus"_s, u"No session bus; idle time reads as 0"_s);
+        return std::nullopt;
+    }
+    auto mutter =
+        QDBusMessage::createMethodCall(u"org.gnome.Mutter.IdleMonitor"_s, u"/org/gnome/Mutter/IdleMonitor/Core"_s,
+                                       u"org.gnome.Mutter.IdleMonitor"_s, u"GetIdletime"_s);
+    const QDBusMessage mutterReply = m_bus.call(mutter, QDBus::Block, callTimeout);
+    if (mutterReply.type() == QDBusMessage::ReplyMessage && !mutterReply.arguments().isEmpty())
+        return mutterReply.arguments().constFirst().toULongLong() / 1000.0; // milliseconds
+
+    auto saver = QDBusMessage::createMethodCall(u"org.freedesktop.ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s,
+                                                u"org.freedesktop.ScreenSaver"_s, u"GetSessionIdleTime"_s);
+    const QDBusMessage saverReply = m_bus.call(saver, QDBus::Block, callTimeout);
+    if (saverReply.type() == QDBusMessage::ReplyMessage && !saverReply.arguments().isEmpty())
+        return saverReply.arguments().constFirst().toUInt(); // seconds
+    m_log.warn(u"idle-dbus"_s,
+               u"Neither the Mutter idle monitor nor the screen saver answers: %1; idle time reads as 0"_s.arg(
+                   saverReply.errorMessage()));
+    return std::nullopt;
+}
+
+} // namespace velto

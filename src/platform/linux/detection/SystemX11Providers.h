@@ -1,0 +1,104 @@
+#pragma once
+
+#include "AppIdentityResolver.h"
+#include "LogOnce.h"
+#include "X11Session.h"
+#include "detection/IdleTimeProviding.h"
+#include "detection/ScreenProviding.h"
+#include "detection/ScreenRecordingRule.h"
+#include "detection/WindowListProviding.h"
+#include "detection/WorkspaceProviding.h"
+
+#include <QDBusConnection>
+#include <QHash>
+#include <QMutex>
+
+#include <memory>
+
+namespace velto {
+
+// The window classes seen for each process in the latest client list, so a later question about one
+// process (its category) can name its application without asking the server again.
+class WindowClassMemo final {
+public:
+    struct Classes {
+        QString instance;
+        QString windowClass;
+    };
+    void replace(QHash<qint32, Classes> classes)
+    {
+        QMutexLocker lock(&m_mutex);
+        m_classes = std::move(classes);
+    }
+    [[nodiscard]] Classes classes(qint32 pid) const
+    {
+        QMutexLocker lock(&m_mutex);
+        return m_classes.value(pid);
+    }
+
+private:
+    mutable QMutex m_mutex;
+    QHash<qint32, Classes> m_classes;
+};
+
+// The applications with windows in the X session (EWMH client list), one per process in the window
+// manager's order; the one owning the active window is active. Windows that name no process are left out.
+class SystemWorkspace final : public WorkspaceProviding {
+public:
+    SystemWorkspace(std::shared_ptr<X11Link> x11, std::shared_ptr<AppIdentityResolver> identities,
+                    std::shared_ptr<WindowClassMemo> memo = std::make_shared<WindowClassMemo>());
+
+    [[nodiscard]] QList<AppSnapshot> runningApplications() const override;
+
+private:
+    std::shared_ptr<X11Link> m_x11;
+    std::shared_ptr<AppIdentityResolver> m_identities;
+    std::shared_ptr<WindowClassMemo> m_memo;
+    LogOnce m_log;
+};
+
+// The managed top-level windows on the current desktop, frontmost first, as frames in root coordinates.
+class SystemWindowList final : public WindowListProviding {
+public:
+    explicit SystemWindowList(std::shared_ptr<X11Link> x11);
+
+    [[nodiscard]] QList<WindowDescriptor> onScreenWindows() const override;
+    // The same windows with their titles, for the recording test.
+    [[nodiscard]] QList<TitledWindow> titledWindows() const;
+
+private:
+    std::shared_ptr<X11Link> m_x11;
+    LogOnce m_log;
+};
+
+// The primary monitor's geometry from RandR, in the same root coordinates as the window list.
+class SystemScreen final : public ScreenProviding {
+public:
+    explicit SystemScreen(std::shared_ptr<X11Link> x11);
+
+    [[nodiscard]] QRectF mainScreenFrame() const override;
+
+private:
+    std::shared_ptr<X11Link> m_x11;
+    LogOnce m_log;
+};
+
+// Idle time from the X server's screen-saver extension; without X, from the desktop's D-Bus idle monitor
+// (GNOME's Mutter IdleMonitor, else org.freedesktop.ScreenSaver's GetSessionIdleTime). 0 when nothing answers.
+class SystemIdleTime final : public IdleTimeProviding {
+public:
+    SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus);
+
+    [[nodiscard]] double secondsSinceLastInput() const override;
+
+    static constexpr int callTimeout = 250;
+
+private:
+    [[nodiscard]] std::optional<double> busIdleSeconds() const;
+
+    std::shared_ptr<X11Link> m_x11;
+    QDBusConnection m_bus;
+    LogOnce m_log;
+};
+
+} // namespace velto

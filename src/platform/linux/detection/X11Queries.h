@@ -1,0 +1,62 @@
+#pragma once
+
+#include "X11Session.h"
+
+#include <QList>
+#include <QRectF>
+#include <QString>
+
+#include <optional>
+
+namespace velto {
+
+// The requests the X11 providers make. Each sends all of its requests before it waits for the first reply,
+// so a pass costs a few round trips however many windows there are. A window that vanishes between two
+// requests simply drops out of the answer.
+namespace X11Queries {
+
+// Window layers in the numbers the detection rules compare: 0 is the normal application layer.
+enum Layer : int {
+    desktopLayer = -2147483623,
+    normalLayer = 0,
+    floatingLayer = 3,
+    dockLayer = 20,
+    notificationLayer = 25,
+    popUpLayer = 101,
+};
+
+struct Client {
+    xcb_window_t window = XCB_WINDOW_NONE;
+    // 0 when the window does not name its process.
+    qint32 pid = 0;
+    QString wmInstance;
+    QString wmClass;
+};
+
+struct Clients {
+    // In the window manager's order (_NET_CLIENT_LIST, oldest first).
+    QList<Client> clients;
+    // The process of the active window; 0 when none is active or it names no process.
+    qint32 activePid = 0;
+};
+
+struct OnScreenWindow {
+    xcb_window_t window = XCB_WINDOW_NONE;
+    qint32 pid = 0;
+    // The frame (decorations included) in root-window coordinates.
+    QRectF frame;
+    int layer = normalLayer;
+    // _NET_WM_NAME, else WM_NAME; none when the window has neither or titles were not asked for.
+    std::optional<QString> title;
+};
+
+[[nodiscard]] Clients clients(const X11Session& session);
+// Managed windows that are mapped, not minimised and on the current desktop, front to back.
+[[nodiscard]] QList<OnScreenWindow> onScreenWindows(const X11Session& session, bool withTitles);
+// The primary RandR monitor, else the first lit output, else the whole root window.
+[[nodiscard]] QRectF primaryScreenFrame(const X11Session& session);
+// Milliseconds since the last input the server saw; none without the MIT-SCREEN-SAVER extension.
+[[nodiscard]] std::optional<quint32> millisecondsSinceInput(const X11Session& session);
+
+} // namespace X11Queries
+} // namespace velto

@@ -1,0 +1,359 @@
+// The X11 providers against a real X server: a private Xvfb with openbox managing windows that test clients
+// open, xdotool acting as the user (activating, renaming, resizing, minimising, typing).
+#include "MessageCapture.h"
+#include "XvfbDesktop.h"
+#include "detection/AppIdentityResolver.h"
+#include "detection/DesktopEntryIndex.h"
+#include "detection/PipeWireCapture.h"
+#include "detection/SystemMediaProviders.h"
+#include "detection/SystemX11Providers.h"
+#include "detection/X11KeyDownTime.h"
+#include "detection/X11Queries.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <atomic>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString windowProgram = QStringLiteral(VELTO_X11_TEST_WINDOW);
+
+void writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+}
+
+std::optional<AppSnapshot> appWithPid(const QList<AppSnapshot>& apps, qint64 pid)
+{
+    for (const AppSnapshot& app : apps) {
+        if (app.processIdentifier == pid)
+            return app;
+    }
+    return std::nullopt;
+}
+
+std::optional<WindowDescriptor> windowOf(const QList<WindowDescriptor>& windows, qint64 pid)
+{
+    for (const WindowDescriptor& window : windows) {
+        if (window.ownerPID == pid)
+            return window;
+    }
+    return std::nullopt;
+}
+
+// The geometry of the window manager's frame around a client, asked independently of the providers.
+QRectF frameOf(const QString& display, quint32 client)
+{
+    xcb_connection_t* c = xcb_connect(display.toLocal8Bit().constData(), nullptr);
+    xcb_window_t window = client;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
+    QRectF frame;
+    for (;;) {
+        auto* tree = xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr);
+        const xcb_window_t parent = tree ? tree->parent : root;
+        std::free(tree);
+        if (parent == root)
+            break;
+        window = parent;
+    }
+    if (auto* geometry = xcb_get_geometry_reply(c, xcb_get_geometry(c, window), nullptr)) {
+        frame = QRectF(geometry->x, geometry->y, geometry->width + 2 * geometry->border_width,
+                       geometry->height + 2 * geometry->border_width);
+        std::free(geometry);
+    }
+    xcb_disconnect(c);
+    return frame;
+}
+
+} // namespace
+
+class TestSystemX11Providers : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void cleanup();
+
+    void workspaceGroupsWindowsByProcessAndFollowsTheActiveWindow();
+    void identitiesComeFromDesktopFilesElseTheWindowClass();
+    void windowListGivesFramesLayersAndFrontToBackOrder();
+    void minimisedAndResizedWindowsAreSeenAsTheyAre();
+    void aRecordingTitleCountsOnlyForKnownApplications();
+    void fullscreenGameWindowsCoverTheScreenAtTheNormalLayer();
+    void idleTimeIsResetByInput();
+    void keyPressesAreHeardOffTheMainThread();
+    void withoutAServerEveryAnswerIsNeutralAndReportedOnce();
+    void aServerThatGoesAwayLeavesNeutralAnswers();
+
+private:
+    QProcess* open(const QStringList& arguments, quint32* window = nullptr);
+    bool xdotool(const QStringList& arguments) { return m_desktop.run(u"xdotool"_s, arguments); }
+
+    XvfbDesktop m_desktop;
+    QTemporaryDir m_dataDir;
+    std::shared_ptr<DesktopEntryIndex> m_entries;
+    std::shared_ptr<X11Link> m_link;
+    std::shared_ptr<AppIdentityResolver> m_identities;
+    std::shared_ptr<WindowClassMemo> m_memo;
+    QList<QProcess*> m_opened;
+};
+
+void TestSystemX11Providers::initTestCase()
+{
+    if (!XvfbDesktop::isAvailable() || QStandardPaths::findExecutable(u"xdotool"_s).isEmpty())
+        QSKIP("Xvfb, openbox or xdotool is not installed");
+    QVERIFY(m_desktop.start());
+    QVERIFY(m_dataDir.isValid());
+    const QString apps = m_dataDir.filePath(u"applications"_s);
+    QVERIFY(QDir().mkpath(apps));
+    writeFile(apps + u"/org.example.Editor.desktop"_s,
+              "[Desktop Entry]\nType=Application\nName=Example Editor\nExec=example-editor %F\n"
+              "StartupWMClass=ExampleEditor\nCategories=Development;IDE;\n");
+    writeFile(apps + u"/org.example.Shooter.desktop"_s,
+              "[Desktop Entry]\nType=Application\nName=Shooter\nExec=shooter\nStartupWMClass=Shooter\n"
+              "Categories=Game;ActionGame;\n");
+    m_entries = std::make_shared<DesktopEntryIndex>(QStringList{apps});
+    m_link = std::make_shared<X11Link>(m_desktop.display().toLocal8Bit());
+    m_identities = std::make_shared<AppIdentityResolver>(m_entries, ProcessTable());
+    m_memo = std::make_shared<WindowClassMemo>();
+}
+
+void TestSystemX11Providers::cleanupTestCase()
+{
+    m_desktop.stop();
+}
+
+void TestSystemX11Providers::cleanup()
+{
+    for (QProcess* window : std::as_const(m_opened))
+        m_desktop.closeWindow(window);
+    m_opened.clear();
+}
+
+QProcess* TestSystemX11Providers::open(const QStringList& arguments, quint32* window)
+{
+    QProcess* process = m_desktop.openWindow(windowProgram, arguments, window);
+    if (process)
+        m_opened.append(process);
+    return process;
+}
+
+void TestSystemX11Providers::workspaceGroupsWindowsByProcessAndFollowsTheActiveWindow()
+{
+    SystemWorkspace workspace(m_link, m_identities, m_memo);
+    quint32 firstWindow = 0;
+    quint32 secondWindow = 0;
+    QProcess* first = open({u"--class"_s, u"first.First"_s}, &firstWindow);
+    QProcess* second = open({u"--class"_s, u"second.Second"_s}, &secondWindow);
+    QVERIFY(open({u"--class"_s, u"anonymous.Anonymous"_s, u"--no-pid"_s}));
+    QVERIFY(first && second);
+
+    QTRY_COMPARE(workspace.runningApplications().size(), 2);
+    QVERIFY(xdotool({u"windowactivate"_s, u"--sync"_s, QString::number(firstWindow)}));
+    QTRY_VERIFY(appWithPid(workspace.runningApplications(), first->processId())->isActive);
+    QList<AppSnapshot> apps = workspace.runningApplications();
+    QVERIFY(!appWithPid(apps, second->processId())->isActive);
+    // In the window manager's order, oldest first: the first window's process leads.
+    QCOMPARE(apps.first().processIdentifier, first->processId());
+
+    QVERIFY(xdotool({u"windowactivate"_s, u"--sync"_s, QString::number(secondWindow)}));
+    QTRY_VERIFY(appWithPid(workspace.runningApplications(), second->processId())->isActive);
+    apps = workspace.runningApplications();
+    QCOMPARE(std::count_if(apps.cbegin(), apps.cend(), [](const auto& app) { return app.isActive; }), 1);
+
+    // Closing a window takes its application off the list.
+    m_desktop.closeWindow(first);
+    m_opened.removeOne(first);
+    QTRY_COMPARE(workspace.runningApplications().size(), 1);
+}
+
+void TestSystemX11Providers::identitiesComeFromDesktopFilesElseTheWindowClass()
+{
+    SystemWorkspace workspace(m_link, m_identities, m_memo);
+    SystemAppCategory categories(m_identities, m_memo);
+    QProcess* editor = open({u"--class"_s, u"example-editor.ExampleEditor"_s});
+    QProcess* unknown = open({u"--class"_s, u"someTool.SomeTool"_s});
+    QVERIFY(editor && unknown);
+    QTRY_COMPARE(workspace.runningApplications().size(), 2);
+    const QList<AppSnapshot> apps = workspace.runningApplications();
+    QCOMPARE(appWithPid(apps, editor->processId())->bundleIdentifier, u"org.example.Editor"_s);
+    QCOMPARE(appWithPid(apps, unknown->processId())->bundleIdentifier, u"sometool"_s);
+
+    QCOMPARE(categories.category(static_cast<qint32>(editor->processId())), u"Development;IDE;"_s);
+    QCOMPARE(categories.category(static_cast<qint32>(unknown->processId())), std::nullopt);
+}
+
+void TestSystemX11Providers::windowListGivesFramesLayersAndFrontToBackOrder()
+{
+    SystemWindowList windows(m_link);
+    quint32 backWindow = 0;
+    quint32 frontWindow = 0;
+    QProcess* back = open({u"--geometry"_s, u"300x200+100+100"_s}, &backWindow);
+    QProcess* front = open({u"--geometry"_s, u"500x400+600+300"_s}, &frontWindow);
+    QProcess* dock = open({u"--type"_s, u"dock"_s, u"--geometry"_s, u"1920x30+0+0"_s});
+    QVERIFY(back && front && dock);
+    QVERIFY(xdotool({u"windowactivate"_s, u"--sync"_s, QString::number(frontWindow)}));
+
+    QTRY_VERIFY(windowOf(windows.onScreenWindows(), dock->processId()));
+    const QList<WindowDescriptor> list = windows.onScreenWindows();
+    const auto frontDescriptor = windowOf(list, front->processId());
+    const auto backDescriptor = windowOf(list, back->processId());
+    QVERIFY(frontDescriptor && backDescriptor);
+    QVERIFY(list.indexOf(*frontDescriptor) < list.indexOf(*backDescriptor));
+    QCOMPARE(frontDescriptor->layer, 0);
+    QCOMPARE(windowOf(list, dock->processId())->layer, int(X11Queries::dockLayer));
+    // The frame includes openbox's decorations around the 500x400 client area.
+    QVERIFY(frontDescriptor->bounds.width() >= 500 && frontDescriptor->bounds.height() > 400);
+    QVERIFY(frontDescriptor->bounds.width() < 540 && frontDescriptor->bounds.height() < 460);
+    // openbox reparents the client into a frame window, a child of the root: its geometry is the frame.
+    QCOMPARE(frontDescriptor->bounds, frameOf(m_desktop.display(), frontWindow));
+}
+
+void TestSystemX11Providers::minimisedAndResizedWindowsAreSeenAsTheyAre()
+{
+    SystemWindowList windows(m_link);
+    quint32 id = 0;
+    QProcess* window = open({u"--geometry"_s, u"300x200+50+50"_s}, &id);
+    QVERIFY(window);
+    QTRY_VERIFY(windowOf(windows.onScreenWindows(), window->processId()));
+    const double width = windowOf(windows.onScreenWindows(), window->processId())->bounds.width();
+
+    QVERIFY(xdotool({u"windowsize"_s, u"--sync"_s, QString::number(id), u"700"_s, u"500"_s}));
+    QTRY_COMPARE(windowOf(windows.onScreenWindows(), window->processId())->bounds.width(), width + 400);
+
+    QVERIFY(xdotool({u"windowminimize"_s, u"--sync"_s, QString::number(id)}));
+    QTRY_VERIFY(!windowOf(windows.onScreenWindows(), window->processId()));
+}
+
+void TestSystemX11Providers::aRecordingTitleCountsOnlyForKnownApplications()
+{
+    SystemWorkspace workspace(m_link, m_identities, m_memo);
+    SystemWindowList windows(m_link);
+    // No media server here: only the window titles can tell.
+    SystemScreenRecordingState recording(m_link, std::make_shared<PipeWireCapture>(m_dataDir.path(), u"none"_s));
+    quint32 id = 0;
+    QProcess* tool = open({u"--class"_s, u"someTool.SomeTool"_s, u"--title"_s, u"Notes"_s}, &id);
+    QVERIFY(tool);
+    QTRY_COMPARE(workspace.runningApplications().size(), 1);
+    QVERIFY(!recording.isScreenRecording(workspace.runningApplications()));
+
+    QVERIFY(xdotool({u"set_window"_s, u"--name"_s, u"Screen Recording 2026-11-23"_s, QString::number(id)}));
+    QTRY_VERIFY(windows.titledWindows().contains(
+        TitledWindow{static_cast<qint32>(tool->processId()), u"Screen Recording 2026-11-23"_s}));
+    QVERIFY(recording.isScreenRecording(workspace.runningApplications()));
+    // The title alone is no evidence when its process is not among the running applications.
+    QVERIFY(!recording.isScreenRecording({}));
+}
+
+void TestSystemX11Providers::fullscreenGameWindowsCoverTheScreenAtTheNormalLayer()
+{
+    SystemWorkspace workspace(m_link, m_identities, m_memo);
+    SystemWindowList windows(m_link);
+    SystemScreen screen(m_link);
+    SystemAppCategory categories(m_identities, m_memo);
+    QCOMPARE(screen.mainScreenFrame(), QRectF(0, 0, 1920, 1080));
+
+    QProcess* game = open({u"--class"_s, u"shooter.Shooter"_s, u"--fullscreen"_s});
+    QVERIFY(game);
+    QTRY_VERIFY(windowOf(windows.onScreenWindows(), game->processId()) &&
+                windowOf(windows.onScreenWindows(), game->processId())->bounds == screen.mainScreenFrame());
+    QCOMPARE(windowOf(windows.onScreenWindows(), game->processId())->layer, 0);
+    QTRY_COMPARE(workspace.runningApplications().size(), 1);
+    QCOMPARE(workspace.runningApplications().first().bundleIdentifier, u"org.example.Shooter"_s);
+    QCOMPARE(categories.category(static_cast<qint32>(game->processId())), u"Game;ActionGame;"_s);
+}
+
+void TestSystemX11Providers::idleTimeIsResetByInput()
+{
+    SystemIdleTime idle(m_link, QDBusConnection(u"none"_s));
+    // The server's own clock runs here; wait until it shows some idleness, then touch a key.
+    QTRY_VERIFY(idle.secondsSinceLastInput() >= 0.3);
+    const double before = idle.secondsSinceLastInput();
+    QVERIFY(xdotool({u"key"_s, u"shift"_s}));
+    QVERIFY(idle.secondsSinceLastInput() < before);
+    QVERIFY(idle.secondsSinceLastInput() < 0.3);
+}
+
+void TestSystemX11Providers::keyPressesAreHeardOffTheMainThread()
+{
+    std::atomic<qint64> now{5'000'000'000};
+    auto keys = X11KeyDownTime::start(m_desktop.display().toLocal8Bit(), [&now] { return now.load(); });
+    QVERIFY(keys);
+    QCOMPARE(keys->secondsSinceLastKeyDown(), std::nullopt);
+
+    QVERIFY(xdotool({u"key"_s, u"a"_s}));
+    QTRY_COMPARE(keys->keyDownCount(), 1u);
+    QCOMPARE(keys->secondsSinceLastKeyDown(), 0.0);
+    now += 2'500'000'000;
+    QCOMPARE(keys->secondsSinceLastKeyDown(), 2.5);
+
+    // Typing three letters is three key-downs (releases do not count); the latest resets the time.
+    QVERIFY(xdotool({u"type"_s, u"abc"_s}));
+    QTRY_COMPARE(keys->keyDownCount(), 4u);
+    QCOMPARE(keys->secondsSinceLastKeyDown(), 0.0);
+    // Pointer input is not typing.
+    QVERIFY(xdotool({u"mousemove"_s, u"300"_s, u"300"_s, u"click"_s, u"1"_s}));
+    QVERIFY(xdotool({u"key"_s, u"b"_s}));
+    QTRY_COMPARE(keys->keyDownCount(), 5u);
+}
+
+void TestSystemX11Providers::withoutAServerEveryAnswerIsNeutralAndReportedOnce()
+{
+    MessageCapture capture;
+    auto link = std::make_shared<X11Link>(":199"_ba);
+    SystemWorkspace workspace(link, m_identities);
+    SystemWindowList windows(link);
+    SystemScreen screen(link);
+    SystemIdleTime idle(link, QDBusConnection(u"none"_s));
+    for (int pass = 0; pass < 3; ++pass) {
+        QVERIFY(workspace.runningApplications().isEmpty());
+        QVERIFY(windows.onScreenWindows().isEmpty());
+        QVERIFY(windows.titledWindows().isEmpty());
+        QCOMPARE(screen.mainScreenFrame(), QRectF());
+        QCOMPARE(idle.secondsSinceLastInput(), 0.0);
+    }
+    QVERIFY(!X11KeyDownTime::start(":199"_ba));
+    // Each provider says once that it has no server; the idle time once more that it has no bus. Three passes
+    // add nothing.
+    const QStringList texts = capture.texts();
+    QCOMPARE(texts.filter(u"Cannot connect to the X server"_s).size(), 4);
+    QCOMPARE(texts.filter(u"No session bus"_s).size(), 1);
+    QCOMPARE(texts.size(), 5);
+}
+
+void TestSystemX11Providers::aServerThatGoesAwayLeavesNeutralAnswers()
+{
+    XvfbDesktop shortLived;
+    QVERIFY(shortLived.start(false, u"800x600x24"_s));
+    auto link = std::make_shared<X11Link>(shortLived.display().toLocal8Bit());
+    SystemWindowList windows(link);
+    SystemScreen screen(link);
+    auto keys = X11KeyDownTime::start(shortLived.display().toLocal8Bit());
+    QVERIFY(keys);
+    QCOMPARE(screen.mainScreenFrame(), QRectF(0, 0, 800, 600));
+
+    MessageCapture capture;
+    shortLived.stop();
+    QTRY_COMPARE(screen.mainScreenFrame(), QRectF());
+    for (int pass = 0; pass < 3; ++pass)
+        QVERIFY(windows.onScreenWindows().isEmpty());
+    QCOMPARE(keys->secondsSinceLastKeyDown(), std::nullopt);
+    keys.reset(); // the listener's thread has ended or ends now; either way this returns
+    QVERIFY(capture.texts().size() <= 4);
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    TestSystemX11Providers test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_systemx11providers.moc"

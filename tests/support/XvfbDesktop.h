@@ -1,0 +1,189 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QString>
+#include <QThread>
+
+#include <memory>
+#include <vector>
+#include <xcb/xcb.h>
+
+// A private X server (Xvfb) with, when asked, the openbox window manager, so EWMH client lists and the
+// active window exist as on a desktop. Starts on a free display number, stops everything it started.
+class XvfbDesktop final {
+public:
+    ~XvfbDesktop() { stop(); }
+
+    [[nodiscard]] static bool isAvailable(bool withWindowManager = true)
+    {
+        return !QStandardPaths::findExecutable(QStringLiteral("Xvfb")).isEmpty() &&
+               (!withWindowManager || !QStandardPaths::findExecutable(QStringLiteral("openbox")).isEmpty());
+    }
+
+    bool start(bool withWindowManager = true, const QString& screen = QStringLiteral("1920x1080x24"))
+    {
+        // The server picks a free display number itself and tells it on stdout, so parallel tests never meet.
+        auto server = std::make_unique<QProcess>();
+        server->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        server->start(QStandardPaths::findExecutable(QStringLiteral("Xvfb")),
+                      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
+                       QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"), screen});
+        if (!server->waitForStarted(3000))
+            return false;
+        const QDeadlineTimer deadline(10000);
+        while (!server->canReadLine() && !deadline.hasExpired() && server->state() == QProcess::Running)
+            server->waitForReadyRead(100);
+        if (!server->canReadLine()) {
+            server->kill();
+            server->waitForFinished();
+            return false;
+        }
+        const QString display = u':' + QString::fromLatin1(server->readLine().trimmed());
+        if (!waitForServer(display.toLocal8Bit(), *server)) {
+            server->kill();
+            server->waitForFinished();
+            return false;
+        }
+        m_server = std::move(server);
+        m_display = display;
+        if (m_display.isEmpty())
+            return false;
+        if (withWindowManager) {
+            m_windowManager = std::make_unique<QProcess>();
+            m_windowManager->setProcessEnvironment(environment());
+            m_windowManager->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            m_windowManager->setStandardOutputFile(QProcess::nullDevice());
+            m_windowManager->start(QStandardPaths::findExecutable(QStringLiteral("openbox")),
+                                   {QStringLiteral("--sm-disable")});
+            if (!m_windowManager->waitForStarted(3000) || !waitForWindowManager())
+                return false;
+        }
+        return true;
+    }
+
+    void stop()
+    {
+        for (auto& window : m_windows) {
+            window->closeWriteChannel();
+            window->terminate();
+            window->waitForFinished(2000);
+        }
+        m_windows.clear();
+        for (auto* process : {m_windowManager.get(), m_server.get()}) {
+            if (process && process->state() != QProcess::NotRunning) {
+                process->terminate();
+                if (!process->waitForFinished(3000)) {
+                    process->kill();
+                    process->waitForFinished();
+                }
+            }
+        }
+        m_windowManager.reset();
+        m_server.reset();
+        m_display.clear();
+    }
+
+    [[nodiscard]] const QString& display() const { return m_display; }
+
+    [[nodiscard]] QProcessEnvironment environment() const
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("DISPLAY"), m_display);
+        return env;
+    }
+
+    // Runs an X client (xdotool, …) to its end; returns whether it succeeded.
+    bool run(const QString& program, const QStringList& arguments, QByteArray* output = nullptr) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.start(QStandardPaths::findExecutable(program), arguments);
+        if (!process.waitForFinished(10000))
+            return false;
+        if (output)
+            *output = process.readAllStandardOutput();
+        return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    }
+
+    // Starts a test window program and waits until it reports its window ID; the process stays ours.
+    QProcess* openWindow(const QString& windowProgram, const QStringList& arguments, quint32* windowId = nullptr)
+    {
+        auto process = std::make_unique<QProcess>();
+        process->setProcessEnvironment(environment());
+        process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process->start(windowProgram, arguments);
+        if (!process->waitForStarted(3000))
+            return nullptr;
+        const QDeadlineTimer deadline(5000);
+        while (!process->canReadLine() && !deadline.hasExpired())
+            process->waitForReadyRead(100);
+        if (!process->canReadLine())
+            return nullptr;
+        if (windowId)
+            *windowId = process->readLine().trimmed().toUInt();
+        m_windows.push_back(std::move(process));
+        return m_windows.back().get();
+    }
+
+    void closeWindow(QProcess* window)
+    {
+        for (auto it = m_windows.begin(); it != m_windows.end(); ++it) {
+            if (it->get() == window) {
+                window->closeWriteChannel();
+                window->waitForFinished(2000);
+                m_windows.erase(it);
+                return;
+            }
+        }
+    }
+
+private:
+    static bool waitForServer(const QByteArray& display, const QProcess& server)
+    {
+        const QDeadlineTimer deadline(5000);
+        while (!deadline.hasExpired() && server.state() == QProcess::Running) {
+            xcb_connection_t* c = xcb_connect(display.constData(), nullptr);
+            const bool up = xcb_connection_has_error(c) == 0;
+            xcb_disconnect(c);
+            if (up)
+                return true;
+            QThread::msleep(20);
+        }
+        return false;
+    }
+
+    // The window manager is ready once it has announced itself on the root window.
+    bool waitForWindowManager() const
+    {
+        xcb_connection_t* c = xcb_connect(m_display.toLocal8Bit().constData(), nullptr);
+        if (xcb_connection_has_error(c)) {
+            xcb_disconnect(c);
+            return false;
+        }
+        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
+        const char name[] = "_NET_SUPPORTING_WM_CHECK";
+        auto* atomReply = xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, sizeof name - 1, name), nullptr);
+        const xcb_atom_t check = atomReply ? atomReply->atom : XCB_ATOM_NONE;
+        std::free(atomReply);
+        bool ready = false;
+        const QDeadlineTimer deadline(5000);
+        while (!ready && !deadline.hasExpired()) {
+            auto* reply =
+                xcb_get_property_reply(c, xcb_get_property(c, 0, root, check, XCB_ATOM_WINDOW, 0, 1), nullptr);
+            ready = reply && xcb_get_property_value_length(reply) == 4;
+            std::free(reply);
+            if (!ready)
+                QThread::msleep(20);
+        }
+        xcb_disconnect(c);
+        return ready;
+    }
+
+    QString m_display;
+    std::unique_ptr<QProcess> m_server;
+    std::unique_ptr<QProcess> m_windowManager;
+    std::vector<std::unique_ptr<QProcess>> m_windows;
+};
