@@ -15,7 +15,7 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QDBusInterface>
+#include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
@@ -90,9 +90,19 @@ void readLayout(const QDBusArgument& argument, QList<MenuEntry>& entries)
 }
 
 // The exported icon and menu answer on this thread, so a blocking call from here would wait on itself.
-QDBusMessage callAndServe(QDBusInterface& target, const QString& method, const QVariantList& arguments = {})
+// Plain messages rather than QDBusInterface, which introspects its peer with a blocking call first.
+struct Peer {
+    QDBusConnection bus;
+    QString service;
+    QString path;
+    QString interface;
+};
+
+QDBusMessage callAndServe(const Peer& target, const QString& method, const QVariantList& arguments = {})
 {
-    QDBusPendingCall call = target.asyncCallWithArgumentList(method, arguments);
+    QDBusMessage message = QDBusMessage::createMethodCall(target.service, target.path, target.interface, method);
+    message.setArguments(arguments);
+    QDBusPendingCall call = target.bus.asyncCall(message);
     QDeadlineTimer deadline(5000);
     while (!call.isFinished() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
@@ -130,8 +140,8 @@ private Q_SLOTS:
 
         QTRY_COMPARE(m_watcher.items().size(), 1);
         const QString item = m_watcher.items().first();
-        QDBusInterface properties(item.section(u'/', 0, 0), u"/StatusNotifierItem"_s,
-                                  u"org.freedesktop.DBus.Properties"_s, *m_hostSide);
+        const Peer properties{*m_hostSide, item.section(u'/', 0, 0), u"/StatusNotifierItem"_s,
+                              u"org.freedesktop.DBus.Properties"_s};
         auto property = [&](const QString& name) {
             const QDBusMessage reply = callAndServe(properties, u"Get"_s, {u"org.kde.StatusNotifierItem"_s, name});
             return qvariant_cast<QDBusVariant>(reply.arguments().value(0)).variant();
@@ -140,7 +150,7 @@ private Q_SLOTS:
         const auto menuPath = qvariant_cast<QDBusObjectPath>(property(u"Menu"_s)).path();
         QVERIFY(!menuPath.isEmpty());
 
-        QDBusInterface menu(item.section(u'/', 0, 0), menuPath, u"com.canonical.dbusmenu"_s, *m_hostSide);
+        const Peer menu{*m_hostSide, item.section(u'/', 0, 0), menuPath, u"com.canonical.dbusmenu"_s};
         auto openMenu = [&] {
             callAndServe(menu, u"AboutToShow"_s, {0});
             const QDBusMessage reply = callAndServe(menu, u"GetLayout"_s, {0, -1, QStringList()});
