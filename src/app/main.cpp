@@ -179,6 +179,9 @@ int runApplication(int argc, char* argv[])
 
 int main(int argc, char* argv[])
 {
+    // Registering a type before any bus use makes Qt's type registry outlive the bus thread, which may still be
+    // dispatching (the bus's greeting) while the process exits; in the other order it warns of unknown types.
+    qRegisterMetaType<velto::ControlStatus>();
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
