@@ -3,8 +3,8 @@
 #include "CommandLine.h"
 #include "ControlTarget.h"
 
-#include <QDBusConnectionInterface>
 #include <QDBusError>
+#include <QDBusReply>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
@@ -37,7 +37,10 @@ QDBusMessage ControlClient::call(const QString& method, const QVariantList& argu
 
 bool ControlClient::isInstanceRunning()
 {
-    const QDBusReply<bool> reply = m_bus.interface()->isServiceRegistered(ControlBus::serviceName);
+    QDBusMessage question = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                                                           u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
+    question << ControlBus::serviceName; // name
+    const QDBusReply<bool> reply = m_bus.call(question, QDBus::Block, m_timeoutMs);
     return reply.isValid() && reply.value();
 }
 
