@@ -291,7 +291,7 @@ void TestControlClient::handOverAsksTheRunningInstanceForItsSettings()
     QVERIFY(outcome.out.contains(u"already running"_s));
     QVERIFY(outcome.out.contains(u"settings window is open"_s));
 
-    // Even without a window to show, the request was handed over: the second start has done its part.
+    // Even without a window to show, the request was handed over: the second start has done its job.
     m_target.settingsAvailable = false;
     outcome = handOver();
     QCOMPARE(outcome.exitCode, ExitCode::success);

@@ -16,7 +16,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcControl, "velto.control")
 
-// RequestName flags and answers (D-Bus specification, org.freedesktop.DBus.RequestName).
+// The bus daemon's RequestName flags and answers.
 constexpr uint doNotQueue = 0x4;
 constexpr uint primaryOwner = 1;
 constexpr uint alreadyOwner = 4;
