@@ -12,6 +12,8 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QGuiApplication>
+#include <QMetaEnum>
 
 #include <cstdio>
 
@@ -66,7 +68,8 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     m_statusItem = new StatusItem(this);
     m_hasTrayHost = m_statusItem->setUp();
-    if (!m_hasTrayHost)
+    // Without any display the start-up has already said there is no tray icon.
+    if (!m_hasTrayHost && QGuiApplication::platformName() != u"offscreen"_s)
         std::fputs("velto: no system tray found; breaks still run, and `velto settings` opens the settings\n", stderr);
     m_statusItem->onMenuNeedsUpdate = [self = QPointer(this)] {
         if (self)
@@ -265,23 +268,92 @@ void AppDelegate::performPrimaryMenuAction()
 
 void AppDelegate::startLongBreakFromMenu()
 {
-    m_breakManager->startLongBreak();
+    startLongBreak();
 }
 
 void AppDelegate::pauseFromMenu()
 {
-    m_breakManager->pauseFor(15 * 60);
+    pauseFor(15 * 60);
 }
 
 void AppDelegate::openSettingsFromMenu()
 {
-    if (onOpenSettings)
-        onOpenSettings();
-    else
+    if (!openSettings())
         std::fputs("velto: the settings window is not available yet\n", stderr);
 }
 
 void AppDelegate::quitFromMenu()
+{
+    quit();
+}
+
+namespace {
+
+// The raw names the persisted enumerations use: the case name with a lower-case first letter.
+template <typename Enum>
+QString rawName(Enum value)
+{
+    QString name = QString::fromLatin1(QMetaEnum::fromType<Enum>().valueToKey(int(value)));
+    if (!name.isEmpty())
+        name[0] = name[0].toLower();
+    return name;
+}
+
+} // namespace
+
+ControlStatus AppDelegate::controlStatus() const
+{
+    const QList<StatusMenuItem> items = statusMenuItems();
+    ControlStatus status;
+    status.statusLine = items.value(0).title;
+    status.timeText = menuBarPresentation().timeText;
+    status.state = rawName(m_breakManager->state());
+    if (const auto reason = m_breakManager->pauseReason())
+        status.pauseReason = rawName(reason->kind);
+    status.breaksToday = int(m_breakManager->dailyBreakCount());
+    status.enabled = m_settingsManager->isEnabled();
+    return status;
+}
+
+void AppDelegate::takeBreakNow()
+{
+    m_breakManager->takeBreakNow();
+}
+
+void AppDelegate::startLongBreak()
+{
+    m_breakManager->startLongBreak();
+}
+
+void AppDelegate::pauseFor(double seconds)
+{
+    m_breakManager->pauseFor(seconds);
+}
+
+void AppDelegate::resume()
+{
+    m_breakManager->resume();
+}
+
+void AppDelegate::skipUpcomingBreak()
+{
+    m_breakManager->skipUpcomingBreak();
+}
+
+void AppDelegate::setRemindersEnabled(bool enabled)
+{
+    m_settingsManager->setIsEnabled(enabled);
+}
+
+bool AppDelegate::openSettings()
+{
+    if (!onOpenSettings)
+        return false;
+    onOpenSettings();
+    return true;
+}
+
+void AppDelegate::quit()
 {
     if (onQuit)
         onQuit();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppServices.h"
+#include "ControlTarget.h"
 #include "shell/MenuBarPresentation.h"
 
 #include <QObject>
@@ -22,7 +23,7 @@ class UpdateAvailabilityModel;
 // The composition root: builds every long-lived component in order, hands each its collaborators, connects
 // them and owns them for the life of the process. There is no main window; quitting happens only through the
 // menu or the command line.
-class AppDelegate final : public QObject {
+class AppDelegate final : public QObject, public ControlTarget {
     Q_OBJECT
 
 public:
@@ -44,8 +45,19 @@ public:
     Q_INVOKABLE void pauseFromMenu();
     Q_INVOKABLE void openSettingsFromMenu();
     Q_INVOKABLE void quitFromMenu();
-    Q_INVOKABLE void triggerTestPreBreakNotification();
+    Q_INVOKABLE void triggerTestPreBreakNotification() override;
     void perform(MenuAction action);
+
+    // What the command line reaches: the same operations as the menu and the card.
+    [[nodiscard]] ControlStatus controlStatus() const override;
+    void takeBreakNow() override;
+    void startLongBreak() override;
+    void pauseFor(double seconds) override;
+    void resume() override;
+    void skipUpcomingBreak() override;
+    void setRemindersEnabled(bool enabled) override;
+    bool openSettings() override;
+    void quit() override;
 
     [[nodiscard]] SettingsManager* settingsManager() const { return m_settingsManager; }
     [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }

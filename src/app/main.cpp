@@ -1,8 +1,14 @@
 #include "AppDelegate.h"
 #include "BreakWindow.h"
+#include "CommandLine.h"
+#include "ControlBus.h"
+#include "ControlClient.h"
+#include "ControlService.h"
+#include "ControlTarget.h"
 #include "VeltoVersion.h"
 
 #include <QApplication>
+#include <QTextStream>
 
 #include <cstdio>
 
@@ -11,37 +17,101 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Without any display Velto still keeps its schedule; Qt would otherwise abort at start. With a display that
-// turns out unreachable, Qt tries the offscreen platform after the usual one.
-void choosePlatform()
+// turns out unreachable, Qt tries the offscreen platform after the usual one. Returns whether there is no
+// display at all, which is said only once this process turns out to be the one that runs.
+bool choosePlatform()
 {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        return;
+        return false;
     if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
-        std::fputs("velto: no display found; running without a tray icon\n", stderr);
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        return;
+        return true;
     }
     const bool wayland =
         qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariable("XDG_SESSION_TYPE") == u"wayland"_s;
     qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;offscreen");
+    return false;
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+void setApplicationIdentity()
 {
-    choosePlatform();
-    QApplication::setApplicationName(u"velto"_s);
+    QCoreApplication::setApplicationName(u"velto"_s);
+    QCoreApplication::setApplicationVersion(QString::fromLatin1(velto::versionString));
+}
+
+// A command for the running instance: no GUI, no display needed.
+int runClient(int argc, char* argv[], const velto::CommandLine& commandLine)
+{
+    setApplicationIdentity();
+    const QCoreApplication application(argc, argv);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return velto::ControlClient(QDBusConnection::sessionBus()).run(commandLine, out, err);
+}
+
+int runApplication(int argc, char* argv[])
+{
+    const bool headless = choosePlatform();
+    setApplicationIdentity();
     QApplication::setApplicationDisplayName(u"Velto"_s);
-    QApplication::setApplicationVersion(QString::fromLatin1(velto::versionString));
-    QApplication::setDesktopFileName(u"velto"_s);
+    QApplication::setDesktopFileName(u"com.velto.app"_s);
     // Velto's windows draw without a GPU driver; see BreakWindow.
     velto::BreakWindow::useSoftwareRendering();
     QApplication application(argc, argv);
     // Closing a settings window or a break overlay must never end the process.
     QApplication::setQuitOnLastWindowClosed(false);
 
+    // The name is claimed before anything is built, so a second start never creates a second scheduler.
+    velto::ControlService control;
+    switch (control.registerOnSessionBus()) {
+    case velto::ControlService::Registration::Owner:
+        break;
+    case velto::ControlService::Registration::AnotherInstance: {
+        QTextStream out(stdout);
+        QTextStream err(stderr);
+        return velto::ControlClient(QDBusConnection::sessionBus()).handOver(out, err);
+    }
+    case velto::ControlService::Registration::NoBus:
+        std::fputs("velto: no session bus; running, but cannot make sure no other Velto runs\n", stderr);
+        break;
+    }
+    if (headless)
+        std::fputs("velto: no display found; running without a tray icon\n", stderr);
+
     velto::AppDelegate delegate(velto::AppServices::system());
+    control.setTarget(&delegate);
     delegate.applicationDidFinishLaunching();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    control.setTarget(nullptr);
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // Registering a type before any bus use makes Qt's type registry outlive the bus thread, which may still be
+    // dispatching (the bus's greeting) while the process exits; in the other order it warns of unknown types.
+    qRegisterMetaType<velto::ControlStatus>();
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const velto::CommandLine commandLine = velto::CommandLine::parse(arguments);
+
+    using Command = velto::CommandLine::Command;
+    switch (commandLine.command) {
+    case Command::Run:
+        return runApplication(argc, argv);
+    case Command::Help:
+        std::fputs(qPrintable(velto::CommandLine::usage()), stdout);
+        return velto::ExitCode::success;
+    case Command::Version:
+        std::printf("velto %s\n", velto::versionString);
+        return velto::ExitCode::success;
+    case Command::Invalid:
+        std::fprintf(stderr, "velto: %s\n\n%s", qPrintable(commandLine.error), qPrintable(velto::CommandLine::usage()));
+        return velto::ExitCode::usage;
+    default:
+        return runClient(argc, argv, commandLine);
+    }
 }

@@ -99,6 +99,13 @@ private Q_SLOTS:
         QVERIFY(!off.delegate->activityDetector()->isMonitoring());
         QCOMPARE(off.delegate->menuBarPresentation().statusText, u"Breaks disabled"_s);
         QVERIFY(off.delegate->statusItem()->toolTip().contains(u"No active timer"_s));
+        ControlStatus status = off.delegate->controlStatus();
+        QCOMPARE(status.statusLine, u"Breaks disabled"_s);
+        QCOMPARE(status.timeText, u"\u2014"_s);
+        QCOMPARE(status.state, u"idle"_s);
+        QCOMPARE(status.pauseReason, u"appDisabled"_s);
+        QVERIFY(!status.enabled);
+        QVERIFY(!off.delegate->openSettings());
 
         ShellUnderTest on;
         QCOMPARE(on.breaks().state(), BreakState::Working);
@@ -106,6 +113,12 @@ private Q_SLOTS:
         QVERIFY(on.delegate->activityDetector()->isMonitoring());
         QCOMPARE(on.breaks().activityDetector(), static_cast<ActivityDetecting*>(on.delegate->activityDetector()));
         QVERIFY(on.delegate->statusItem()->toolTip().startsWith(u"Velto 20:00"_s));
+        on.delegate->takeBreakNow();
+        status = on.delegate->controlStatus();
+        QCOMPARE(status.statusLine, u"00:20  Break in progress"_s);
+        QCOMPARE(status.state, u"onBreak"_s);
+        QVERIFY(status.pauseReason.isEmpty());
+        QVERIFY(status.enabled);
     }
 
     void togglingSavesFirstThenStartsOrStopsOnTheNextTurn()

@@ -51,7 +51,7 @@ QByteArray XdgAutostartEntry::entryContents() const
                          u"Exec="_s +
                          quotedExecArgument(m_executablePath) +
                          u"\n"
-                         u"Icon=velto\n"
+                         u"Icon=com.velto.app\n"
                          u"Terminal=false\n"
                          u"Categories=Utility;\n"
                          u"X-GNOME-Autostart-enabled=true\n"_s;

@@ -40,8 +40,8 @@ void TestXdgAutostartEntry::enablingWritesAnEntryThatStartsTheExecutable()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().split('\n');
     QCOMPARE(lines.first(), "[Desktop Entry]");
-    for (const char* line :
-         {"Type=Application", "Name=Velto", "Exec=\"/usr/bin/velto\"", "X-GNOME-Autostart-enabled=true"})
+    for (const char* line : {"Type=Application", "Name=Velto", "Exec=\"/usr/bin/velto\"", "Icon=com.velto.app",
+                             "X-GNOME-Autostart-enabled=true"})
         QVERIFY2(lines.contains(line), line);
 
     QCOMPARE(entry.setRegistered(false), std::nullopt);

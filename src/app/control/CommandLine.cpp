@@ -1,0 +1,165 @@
+#include "CommandLine.h"
+
+#include <QHash>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+namespace {
+
+using Command = CommandLine::Command;
+
+const QHash<QString, Command>& commandWords()
+{
+    static const QHash<QString, Command> words{
+        {u"status"_s, Command::Status},   {u"break"_s, Command::TakeBreak},   {u"pause"_s, Command::Pause},
+        {u"resume"_s, Command::Resume},   {u"skip"_s, Command::Skip},         {u"enable"_s, Command::Enable},
+        {u"disable"_s, Command::Disable}, {u"settings"_s, Command::Settings}, {u"quit"_s, Command::Quit},
+        {u"help"_s, Command::Help},
+    };
+    return words;
+}
+
+bool isHelpOption(const QString& argument)
+{
+    return argument == u"-h"_s || argument == u"--help"_s;
+}
+
+// How many arguments a Qt start-up option at `index` takes up (the option and its value), or 0 when it is none.
+qsizetype qtOptionLength(const QStringList& arguments, qsizetype index)
+{
+    static const QStringList withValue{
+        u"platform"_s,        u"platformpluginpath"_s,
+        u"platformtheme"_s,   u"plugin"_s,
+        u"qmljsdebugger"_s,   u"style"_s,
+        u"stylesheet"_s,      u"session"_s,
+        u"display"_s,         u"geometry"_s,
+        u"title"_s,           u"name"_s,
+        u"qwindowgeometry"_s, u"qwindowicon"_s,
+        u"qwindowtitle"_s,
+    };
+    static const QStringList flags{u"reverse"_s, u"widgetcount"_s, u"nograb"_s, u"dograb"_s, u"sync"_s};
+
+    QStringView option = arguments.at(index);
+    if (!option.startsWith(u'-'))
+        return 0;
+    option = option.mid(option.startsWith(u"--") ? 2 : 1);
+    const qsizetype equals = option.indexOf(u'=');
+    if (equals > 0)
+        return withValue.contains(option.left(equals)) ? 1 : 0;
+    if (flags.contains(option))
+        return 1;
+    if (withValue.contains(option))
+        return index + 1 < arguments.size() ? 2 : 0;
+    return 0;
+}
+
+CommandLine withCommand(Command command)
+{
+    CommandLine result;
+    result.command = command;
+    return result;
+}
+
+CommandLine invalid(QString error)
+{
+    CommandLine result = withCommand(Command::Invalid);
+    result.error = std::move(error);
+    return result;
+}
+
+} // namespace
+
+bool CommandLine::talksToRunningInstance() const
+{
+    switch (command) {
+    case Command::Run:
+    case Command::Help:
+    case Command::Version:
+    case Command::Invalid:
+        return false;
+    default:
+        return true;
+    }
+}
+
+CommandLine CommandLine::parse(const QStringList& arguments)
+{
+    qsizetype index = 0;
+    while (index < arguments.size()) {
+        const qsizetype length = qtOptionLength(arguments, index);
+        if (length == 0)
+            break;
+        index += length;
+    }
+    if (index == arguments.size())
+        return {};
+
+    // Help wins wherever it is asked for, so `velto pause --help` explains rather than pauses.
+    for (qsizetype i = index; i < arguments.size(); ++i) {
+        if (isHelpOption(arguments.at(i)))
+            return withCommand(Command::Help);
+    }
+
+    const QString& word = arguments.at(index);
+    const QStringList rest = arguments.mid(index + 1);
+    if (word == u"--version"_s || word == u"-v"_s) {
+        if (!rest.isEmpty())
+            return invalid(u"unexpected argument '%1'"_s.arg(rest.first()));
+        return withCommand(Command::Version);
+    }
+    const auto found = commandWords().constFind(word);
+    if (found == commandWords().constEnd()) {
+        if (word.startsWith(u'-'))
+            return invalid(u"unknown option '%1'"_s.arg(word));
+        return invalid(u"unknown command '%1'"_s.arg(word));
+    }
+
+    CommandLine result = withCommand(found.value());
+    for (qsizetype i = 0; i < rest.size(); ++i) {
+        const QString& argument = rest.at(i);
+        if (result.command == Command::Status && argument == u"--json"_s && !result.json) {
+            result.json = true;
+        } else if (result.command == Command::TakeBreak && argument == u"--long"_s && !result.longBreak) {
+            result.longBreak = true;
+        } else if (result.command == Command::Pause && i == 0 && !argument.startsWith(u'-')) {
+            bool ok = false;
+            const int minutes = argument.toInt(&ok);
+            if (!ok || minutes < 1 || minutes > maximumPauseMinutes)
+                return invalid(
+                    u"MINUTES must be a whole number from 1 to %1, not '%2'"_s.arg(maximumPauseMinutes).arg(argument));
+            result.pauseMinutes = minutes;
+        } else if (argument.startsWith(u'-')) {
+            return invalid(u"unknown option '%1' for %2"_s.arg(argument, word));
+        } else {
+            return invalid(u"unexpected argument '%1' for %2"_s.arg(argument, word));
+        }
+    }
+    return result;
+}
+
+QString CommandLine::usage()
+{
+    return u"Usage: velto [COMMAND]\n"
+           u"\n"
+           u"Without a command, starts Velto; if Velto is already running, opens its settings instead.\n"
+           u"\n"
+           u"Commands for the running Velto:\n"
+           u"  status [--json]   Show the countdown, the state and today's breaks\n"
+           u"  break [--long]    Take a break now (a long break with --long)\n"
+           u"  pause [MINUTES]   Pause reminders for MINUTES minutes (15 if not given)\n"
+           u"  resume            End a pause\n"
+           u"  skip              Skip the coming break\n"
+           u"  enable            Turn reminders on\n"
+           u"  disable           Turn reminders off\n"
+           u"  settings          Open the settings window\n"
+           u"  quit              Quit Velto\n"
+           u"\n"
+           u"Options:\n"
+           u"  -h, --help        Show this help\n"
+           u"  -v, --version     Show the version\n"
+           u"\n"
+           u"Exit status: 0 on success, 1 when Velto is not running or does not answer, 2 for bad arguments.\n"_s;
+}
+
+} // namespace velto

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace velto {
+
+// Exit statuses of the velto command.
+namespace ExitCode {
+inline constexpr int success = 0;
+inline constexpr int failure = 1; // no running instance, or it did not answer
+inline constexpr int usage = 2;   // bad arguments
+} // namespace ExitCode
+
+// What the command line asks for. Everything but `Run`, `Help`, `Version` and `Invalid` is sent to the running
+// instance.
+struct CommandLine {
+    enum class Command {
+        Run, // no command: start Velto, or hand over to the one already running
+        Help,
+        Version,
+        Status,
+        TakeBreak,
+        Pause,
+        Resume,
+        Skip,
+        Enable,
+        Disable,
+        Settings,
+        Quit,
+        Invalid,
+    };
+
+    static constexpr int defaultPauseMinutes = 15;
+    static constexpr int maximumPauseMinutes = 24 * 60;
+
+    Command command = Command::Run;
+    bool json = false;                      // status
+    bool longBreak = false;                 // break
+    int pauseMinutes = defaultPauseMinutes; // pause
+    QString error;                          // Invalid: what was wrong, one line
+
+    [[nodiscard]] bool talksToRunningInstance() const;
+
+    // arguments without the program name. Qt's own start-up options (-platform xcb, -style=Fusion, ...) before
+    // the command are passed over, so they still reach the application object.
+    [[nodiscard]] static CommandLine parse(const QStringList& arguments);
+    [[nodiscard]] static QString usage();
+
+    friend bool operator==(const CommandLine&, const CommandLine&) = default;
+};
+
+} // namespace velto

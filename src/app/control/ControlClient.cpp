@@ -1,0 +1,170 @@
+#include "ControlClient.h"
+
+#include "CommandLine.h"
+#include "ControlTarget.h"
+
+#include <QDBusError>
+#include <QDBusReply>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace velto {
+namespace {
+
+using Command = CommandLine::Command;
+
+const QString notRunningText = u"velto: Velto is not running"_s;
+
+} // namespace
+
+ControlClient::ControlClient(QDBusConnection bus, int timeoutMs)
+    : m_bus(std::move(bus))
+    , m_timeoutMs(timeoutMs)
+{}
+
+QDBusMessage ControlClient::call(const QString& method, const QVariantList& arguments)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(ControlBus::serviceName, ControlBus::objectPath,
+                                                          ControlBus::interfaceName, method);
+    message.setArguments(arguments);
+    // Asking a stopped Velto for its status must never start one.
+    message.setAutoStartService(false);
+    return m_bus.call(message, QDBus::BlockWithGui, m_timeoutMs);
+}
+
+bool ControlClient::isInstanceRunning()
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                                                           u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
+    question << ControlBus::serviceName; // name
+    const QDBusReply<bool> reply = m_bus.call(question, QDBus::Block, m_timeoutMs);
+    return reply.isValid() && reply.value();
+}
+
+int ControlClient::reportFailure(const QDBusMessage& reply, QTextStream& err)
+{
+    const QDBusError error(reply);
+    switch (error.type()) {
+    case QDBusError::ServiceUnknown:
+        err << notRunningText << '\n';
+        break;
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+        if (isInstanceRunning())
+            err << u"velto: Velto did not answer within %1 seconds"_s.arg(m_timeoutMs / 1000.0) << '\n';
+        else
+            err << notRunningText << '\n';
+        break;
+    default:
+        if (error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner"_s)
+            err << notRunningText << '\n';
+        else
+            err << u"velto: "_s << error.message() << '\n';
+        break;
+    }
+    err.flush();
+    return ExitCode::failure;
+}
+
+int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextStream& err)
+{
+    if (!m_bus.isConnected()) {
+        err << u"velto: no session bus, so no running Velto can be reached"_s << '\n';
+        err.flush();
+        return ExitCode::failure;
+    }
+
+    QDBusMessage reply;
+    switch (commandLine.command) {
+    case Command::Status:
+        reply = call(u"status"_s);
+        if (reply.type() == QDBusMessage::ReplyMessage) {
+            const ControlStatus status = ControlStatus::fromVariantMap(QDBusReply<QVariantMap>(reply).value());
+            out << (commandLine.json ? statusJson(status) : statusText(status));
+            out.flush();
+        }
+        break;
+    case Command::TakeBreak:
+        reply = call(commandLine.longBreak ? u"startLongBreak"_s : u"takeBreakNow"_s);
+        break;
+    case Command::Pause:
+        reply = call(u"pauseFor"_s, {double(commandLine.pauseMinutes) * 60.0});
+        break;
+    case Command::Resume:
+        reply = call(u"resume"_s);
+        break;
+    case Command::Skip:
+        reply = call(u"skipUpcomingBreak"_s);
+        break;
+    case Command::Enable:
+    case Command::Disable:
+        reply = call(u"setRemindersEnabled"_s, {commandLine.command == Command::Enable});
+        break;
+    case Command::Settings:
+        reply = call(u"openSettings"_s);
+        if (reply.type() == QDBusMessage::ReplyMessage && !QDBusReply<bool>(reply).value()) {
+            err << u"velto: the settings window is not available yet"_s << '\n';
+            err.flush();
+            return ExitCode::failure;
+        }
+        break;
+    case Command::Quit:
+        reply = call(u"quit"_s);
+        // An instance that went away before its answer got out has still done what was asked.
+        if (reply.type() == QDBusMessage::ErrorMessage && QDBusError(reply).type() == QDBusError::NoReply &&
+            !isInstanceRunning())
+            return ExitCode::success;
+        break;
+    default:
+        err << u"velto: nothing to send for this command"_s << '\n';
+        err.flush();
+        return ExitCode::usage;
+    }
+
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return reportFailure(reply, err);
+    return ExitCode::success;
+}
+
+int ControlClient::handOver(QTextStream& out, QTextStream& err)
+{
+    const QDBusMessage reply = call(u"openSettings"_s);
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return reportFailure(reply, err);
+    if (QDBusReply<bool>(reply).value())
+        out << u"Velto is already running; its settings window is open."_s << '\n';
+    else
+        out << u"Velto is already running."_s << '\n';
+    out.flush();
+    return ExitCode::success;
+}
+
+QString ControlClient::statusText(const ControlStatus& status)
+{
+    const QString pauseReason = status.pauseReason.isEmpty() ? u"none"_s : status.pauseReason;
+    return status.statusLine + u'\n' +                     //
+           u"Time left:    "_s + status.timeText + u'\n' + //
+           u"State:        "_s + status.state + u'\n' +    //
+           u"Pause reason: "_s + pauseReason + u'\n' +     //
+           u"Breaks today: "_s + QString::number(status.breaksToday) + u'\n' + u"Reminders:    "_s +
+           (status.enabled ? u"on"_s : u"off"_s) + u'\n';
+}
+
+QString ControlClient::statusJson(const ControlStatus& status)
+{
+    const QJsonObject object{
+        {u"statusLine"_s, status.statusLine},
+        {u"timeText"_s, status.timeText},
+        {u"state"_s, status.state},
+        {u"pauseReason"_s, status.pauseReason.isEmpty() ? QJsonValue(QJsonValue::Null) : status.pauseReason},
+        {u"breaksToday"_s, status.breaksToday},
+        {u"enabled"_s, status.enabled},
+    };
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
+}
+
+} // namespace velto

@@ -1,0 +1,245 @@
+#include "ControlBus.h"
+#include "ControlService.h"
+#include "ControlTarget.h"
+#include "FakeControlTarget.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+using Registration = ControlService::Registration;
+
+// Runs under dbus-run-session (see velto_add_dbus_test). Each "instance" registers on a connection of its own and
+// the calls come from yet another one, so every call crosses the bus daemon as it does between two processes.
+class TestControlService : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void theFirstRegistrationOwnsTheNameAndASecondIsTurnedAway();
+    void theNameIsFreeAgainOnceTheOwnerIsGone();
+    void withoutABusThereIsNoClaim();
+    void statusTravelsAsAMapOfTheRecord();
+    void statusReadsMissingOrMistypedEntriesAsDefaults();
+    void theTestNotificationIsOnTheBus();
+    void quitAnswersBeforeItQuits();
+    void pausesThatAreNotPositiveAreRefused_data();
+    void pausesThatAreNotPositiveAreRefused();
+    void callsBeforeTheTargetIsSetAreAnsweredWithAnError();
+    void openSettingsSaysWhetherThereIsAWindow();
+
+private:
+    [[nodiscard]] QDBusConnection instanceConnection(const QString& name);
+    [[nodiscard]] QDBusMessage callService(const QString& method, const QVariantList& arguments = {});
+
+    QStringList m_connectionNames;
+    std::optional<QDBusConnection> m_caller;
+};
+
+void TestControlService::initTestCase()
+{
+    QVERIFY2(QDBusConnection::sessionBus().isConnected(), "Run this test under dbus-run-session, as ctest does");
+    m_caller = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"caller"_s);
+    QVERIFY(m_caller->isConnected());
+}
+
+void TestControlService::cleanup()
+{
+    for (const QString& name : std::as_const(m_connectionNames))
+        QDBusConnection::disconnectFromBus(name);
+    m_connectionNames.clear();
+    QTRY_VERIFY(!m_caller->interface()->isServiceRegistered(ControlBus::serviceName).value());
+}
+
+QDBusConnection TestControlService::instanceConnection(const QString& name)
+{
+    m_connectionNames << name;
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+}
+
+QDBusMessage TestControlService::callService(const QString& method, const QVariantList& arguments)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(ControlBus::serviceName, ControlBus::objectPath,
+                                                          ControlBus::interfaceName, method);
+    message.setArguments(arguments);
+    // The service lives in this thread, so the call must keep the event loop turning while it waits.
+    return m_caller->call(message, QDBus::BlockWithGui, 2000);
+}
+
+void TestControlService::theFirstRegistrationOwnsTheNameAndASecondIsTurnedAway()
+{
+    FakeControlTarget first;
+    FakeControlTarget second;
+    ControlService firstService;
+    ControlService secondService;
+    const QDBusConnection firstBus = instanceConnection(u"first"_s);
+    const QDBusConnection secondBus = instanceConnection(u"second"_s);
+
+    firstService.setTarget(&first);
+    QCOMPARE(firstService.registerOn(firstBus), Registration::Owner);
+    secondService.setTarget(&second);
+    QCOMPARE(secondService.registerOn(secondBus), Registration::AnotherInstance);
+
+    const QDBusReply<QString> owner = m_caller->interface()->serviceOwner(ControlBus::serviceName);
+    QCOMPARE(owner.value(), firstBus.baseService());
+    // The loser does not leave its object behind, and a request reaches the owner only.
+    QVERIFY(!secondBus.objectRegisteredAt(ControlBus::objectPath));
+    QCOMPARE(callService(u"openSettings"_s).type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(first.calls, QStringList{u"openSettings"_s});
+    QVERIFY(second.calls.isEmpty());
+}
+
+void TestControlService::theNameIsFreeAgainOnceTheOwnerIsGone()
+{
+    const QDBusConnection firstBus = instanceConnection(u"first"_s);
+    const QDBusConnection secondBus = instanceConnection(u"second"_s);
+    {
+        ControlService firstService;
+        QCOMPARE(firstService.registerOn(firstBus), Registration::Owner);
+    }
+    QTRY_VERIFY(!m_caller->interface()->isServiceRegistered(ControlBus::serviceName).value());
+    ControlService secondService;
+    QCOMPARE(secondService.registerOn(secondBus), Registration::Owner);
+}
+
+void TestControlService::withoutABusThereIsNoClaim()
+{
+    ControlService service;
+    QCOMPARE(service.registerOn(QDBusConnection(u"never-connected"_s)), Registration::NoBus);
+}
+
+void TestControlService::statusTravelsAsAMapOfTheRecord()
+{
+    FakeControlTarget target;
+    target.status = {u"24:59  Until next break"_s, u"24:59"_s, u"working"_s, {}, 3, true};
+    ControlService service;
+    service.setTarget(&target);
+    QCOMPARE(service.registerOn(instanceConnection(u"instance"_s)), Registration::Owner);
+
+    const QDBusMessage reply = callService(u"status"_s);
+    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(reply.signature(), u"a{sv}"_s);
+    const QVariantMap map = QDBusReply<QVariantMap>(reply).value();
+    QCOMPARE(map.value(u"statusLine"_s).toString(), u"24:59  Until next break"_s);
+    QCOMPARE(map.value(u"breaksToday"_s).toInt(), 3);
+    QCOMPARE(ControlStatus::fromVariantMap(map), target.status);
+
+    target.status = {u"Breaks disabled"_s, u"—"_s, u"idle"_s, u"appDisabled"_s, 0, false};
+    QCOMPARE(ControlStatus::fromVariantMap(QDBusReply<QVariantMap>(callService(u"status"_s)).value()), target.status);
+}
+
+void TestControlService::statusReadsMissingOrMistypedEntriesAsDefaults()
+{
+    QCOMPARE(ControlStatus::fromVariantMap({}), ControlStatus());
+    const QVariantMap odd{
+        {u"statusLine"_s, 5}, {u"state"_s, u"working"_s}, {u"breaksToday"_s, u"many"_s}, {u"enabled"_s, u"true"_s},
+        {u"extra"_s, 1},
+    };
+    const ControlStatus status = ControlStatus::fromVariantMap(odd);
+    QCOMPARE(status.statusLine, QString());
+    QCOMPARE(status.state, u"working"_s);
+    QCOMPARE(status.breaksToday, 0);
+    QCOMPARE(status.enabled, false);
+}
+
+// The command line's own methods are exercised through the client; this one only scripts and tests call.
+void TestControlService::theTestNotificationIsOnTheBus()
+{
+    FakeControlTarget target;
+    ControlService service;
+    service.setTarget(&target);
+    QCOMPARE(service.registerOn(instanceConnection(u"instance"_s)), Registration::Owner);
+
+    const QDBusMessage reply = callService(u"triggerTestPreBreakNotification"_s);
+    QVERIFY2(reply.type() == QDBusMessage::ReplyMessage, qPrintable(reply.errorMessage()));
+    QCOMPARE(target.calls, QStringList{u"triggerTestPreBreakNotification"_s});
+}
+
+void TestControlService::quitAnswersBeforeItQuits()
+{
+    FakeControlTarget target;
+    ControlService service;
+    service.setTarget(&target);
+    QCOMPARE(service.registerOn(instanceConnection(u"instance"_s)), Registration::Owner);
+
+    // Called as the bus would call it: it returns, and so lets the reply go out, before anything quits.
+    service.quit();
+    QVERIFY(target.calls.isEmpty());
+    QTRY_COMPARE(target.calls, QStringList{u"quit"_s});
+
+    QCOMPARE(callService(u"quit"_s).type(), QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(target.calls, (QStringList{u"quit"_s, u"quit"_s}));
+
+    // A service gone before its turn comes asks nobody to quit.
+    FakeControlTarget other;
+    auto doomed = std::make_unique<ControlService>();
+    doomed->setTarget(&other);
+    QMetaObject::invokeMethod(doomed.get(), "quit");
+    doomed.reset();
+    QCoreApplication::processEvents();
+    QVERIFY(other.calls.isEmpty());
+}
+
+void TestControlService::pausesThatAreNotPositiveAreRefused_data()
+{
+    QTest::addColumn<double>("seconds");
+    QTest::newRow("zero") << 0.0;
+    QTest::newRow("negative") << -60.0;
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
+}
+
+void TestControlService::pausesThatAreNotPositiveAreRefused()
+{
+    QFETCH(double, seconds);
+    FakeControlTarget target;
+    ControlService service;
+    service.setTarget(&target);
+    QCOMPARE(service.registerOn(instanceConnection(u"instance"_s)), Registration::Owner);
+
+    const QDBusMessage reply = callService(u"pauseFor"_s, {seconds});
+    QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+    QCOMPARE(reply.errorName(), ControlBus::invalidArgumentError);
+    QVERIFY(target.calls.isEmpty());
+}
+
+void TestControlService::callsBeforeTheTargetIsSetAreAnsweredWithAnError()
+{
+    ControlService service;
+    QCOMPARE(service.registerOn(instanceConnection(u"instance"_s)), Registration::Owner);
+    for (const QString& method : {u"status"_s, u"takeBreakNow"_s, u"openSettings"_s, u"quit"_s}) {
+        const QDBusMessage reply = callService(method);
+        QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+        QCOMPARE(reply.errorName(), ControlBus::notReadyError);
+    }
+
+    FakeControlTarget target;
+    service.setTarget(&target);
+    QCOMPARE(callService(u"takeBreakNow"_s).type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(target.calls, QStringList{u"takeBreakNow"_s});
+}
+
+void TestControlService::openSettingsSaysWhetherThereIsAWindow()
+{
+    FakeControlTarget target;
+    ControlService service;
+    QCOMPARE(service.registerOnSessionBus(target), Registration::Owner);
+    QCOMPARE(service.target(), &target);
+
+    target.settingsAvailable = false;
+    QCOMPARE(QDBusReply<bool>(callService(u"openSettings"_s)).value(), false);
+    target.settingsAvailable = true;
+    QCOMPARE(QDBusReply<bool>(callService(u"openSettings"_s)).value(), true);
+    QCOMPARE(target.calls.size(), 2);
+}
+
+QTEST_GUILESS_MAIN(TestControlService)
+#include "tst_controlservice.moc"

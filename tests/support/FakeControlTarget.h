@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ControlTarget.h"
+
+#include <QStringList>
+
+// Answers with a scripted status and writes down every operation it is asked for, with its argument, in order.
+class FakeControlTarget final : public velto::ControlTarget {
+public:
+    velto::ControlStatus status;
+    bool settingsAvailable = true;
+    QStringList calls;
+
+    [[nodiscard]] velto::ControlStatus controlStatus() const override { return status; }
+    void takeBreakNow() override { calls << QStringLiteral("takeBreakNow"); }
+    void startLongBreak() override { calls << QStringLiteral("startLongBreak"); }
+    void pauseFor(double seconds) override { calls << QStringLiteral("pauseFor %1").arg(seconds); }
+    void resume() override { calls << QStringLiteral("resume"); }
+    void skipUpcomingBreak() override { calls << QStringLiteral("skipUpcomingBreak"); }
+    void setRemindersEnabled(bool enabled) override
+    {
+        calls << QStringLiteral("setRemindersEnabled %1").arg(enabled ? u"true" : u"false");
+    }
+    bool openSettings() override
+    {
+        calls << QStringLiteral("openSettings");
+        return settingsAvailable;
+    }
+    void quit() override { calls << QStringLiteral("quit"); }
+    void triggerTestPreBreakNotification() override { calls << QStringLiteral("triggerTestPreBreakNotification"); }
+};
