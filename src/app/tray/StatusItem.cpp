@@ -50,10 +50,13 @@ void StatusItem::update(const MenuBarPresentation& presentation, const TrayIconF
         ++m_iconRedraws;
         m_trayIcon->setIcon(TrayIconPainter::icon(face));
     }
-    // Trays have no separate accessible texts, so the tooltip carries the name, the title and what a screen
-    // reader would say.
-    QString toolTip = presentation.statusItemTitle.isEmpty() ? u"Velto"_s : u"Velto "_s + presentation.statusItemTitle;
-    toolTip += u"\n"_s + presentation.accessibilityLabel() + u"\n"_s + presentation.accessibilityValue();
+    // Trays have no separate accessible texts, so the tooltip names Velto and says what the menu's first line
+    // says. It counts whole minutes like the icon: a text that changed every second would wake the tray host
+    // (and Velto's bus thread) every second for a tooltip hardly anyone is looking at.
+    QString toolTip = u"Velto"_s;
+    if (face.showsTimer)
+        toolTip += u" \u00B7 "_s + face.label + (face.label.endsWith(u'h') ? u""_s : u" min"_s) + u" left"_s;
+    toolTip += u"\n"_s + presentation.statusText;
     if (toolTip != m_toolTip) {
         m_toolTip = toolTip;
         m_trayIcon->setToolTip(toolTip);
