@@ -8,14 +8,14 @@
 namespace velto {
 
 InAppNotificationManager::InAppNotificationManager(std::unique_ptr<NotificationWindowPresenting> windowPresenter,
-                                                   SoundPlaying* sounds, QPointer<SettingsManager> settings,
+                                                   SoundPlaying* sounds, SettingsManager* settings,
                                                    std::unique_ptr<OneShotTiming> autoDismissTimer, Post post,
                                                    QObject* parent)
     : QObject(parent)
     , m_windowPresenter(std::move(windowPresenter))
     , m_autoDismissTimer(autoDismissTimer ? std::move(autoDismissTimer) : std::make_unique<QtOneShotTimer>())
     , m_sounds(sounds)
-    , m_settings(std::move(settings))
+    , m_settings(settings)
     , m_post(std::move(post))
 {
     if (!m_post) {

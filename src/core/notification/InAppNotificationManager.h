@@ -36,7 +36,7 @@ public:
     // The presenter is owned; sounds (null plays nothing) and settings are not. Without a timer a precise
     // QTimer is used; without post, queued calls on this object's thread.
     InAppNotificationManager(std::unique_ptr<NotificationWindowPresenting> windowPresenter, SoundPlaying* sounds,
-                             QPointer<SettingsManager> settings, std::unique_ptr<OneShotTiming> autoDismissTimer = {},
+                             SettingsManager* settings, std::unique_ptr<OneShotTiming> autoDismissTimer = {},
                              Post post = {}, QObject* parent = nullptr);
     ~InAppNotificationManager() override;
 

@@ -182,6 +182,8 @@ InAppNotificationWindowPresenter::makePanel(std::shared_ptr<PreBreakNotification
         return nullptr;
     }
     card->setParent(window);
+    // The actions hold the model; they go after the card, so no binding reads a model that is gone.
+    actions->setParent(card);
     QQmlEngine::setObjectOwnership(displayModel.get(), QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(actions, QQmlEngine::CppOwnership);
 
