@@ -153,6 +153,10 @@ InAppNotificationWindowPresenter::makePanel(std::shared_ptr<PreBreakNotification
     // workspace and no taskbar entry.
     window->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
     window->setProperty("_q_showWithoutActivating", true);
+    // An alpha channel, so a compositing desktop shows the rounded corners and the translucent material.
+    QSurfaceFormat format = window->format();
+    format.setAlphaBufferSize(8);
+    window->setFormat(format);
     window->setColor(Qt::transparent);
     window->setTitle(u"Velto"_s);
     window->resize(cardWidth, cardHeight);
