@@ -44,6 +44,8 @@ QPalette desktopPalette(bool dark)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Twice the pixels, as on a HiDPI screen, so the small card stays crisp in the README.
+    qputenv("QT_SCALE_FACTOR", "2");
     QGuiApplication app(argc, argv);
     const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
     QDir().mkpath(outputDir);
@@ -71,10 +73,12 @@ int main(int argc, char** argv)
         QTest::qWait(50);
         const QImage card = window->grabWindow();
         // The card is translucent and rounded; show it over a plain desktop-like backdrop with a margin.
-        QImage framed(card.width() + 48, card.height() + 48, QImage::Format_ARGB32_Premultiplied);
+        QImage framed(card.width() + 96, card.height() + 96, QImage::Format_ARGB32_Premultiplied);
         framed.fill(backdrop);
         QPainter painter(&framed);
-        painter.drawImage(24, 24, card);
+        QImage unscaled = card;
+        unscaled.setDevicePixelRatio(1);
+        painter.drawImage(48, 48, unscaled);
         painter.end();
         const QString path = outputDir + u'/' + shot.name + u".png"_s;
         if (!framed.save(path)) {
