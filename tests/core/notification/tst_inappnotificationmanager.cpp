@@ -79,7 +79,6 @@ private Q_SLOTS:
     void choicesWithoutCallbacksStillDismiss();
     void aSecondShowReplacesTheFirst();
     void dismissTwiceHidesOnce();
-    void aCardFromAnEarlierShowActsOnTheManagerAsItIsNow();
     void theSettingsDecideWhetherAnAnnouncementShows();
     void nothingQueuedOutlivesTheManager();
     void theRealTimerFiresOnceAndCanBeReplaced();
@@ -257,19 +256,6 @@ void TestInAppNotificationManager::dismissTwiceHidesOnce()
     QCOMPARE(changes.size(), 3);
     rig.manager->dismiss();
     QCOMPARE(changes.size(), 3);
-    QCOMPARE(rig.presenter->hides, 1);
-}
-
-void TestInAppNotificationManager::aCardFromAnEarlierShowActsOnTheManagerAsItIsNow()
-{
-    // A click that lands on the old card while the new one is being set up still reaches the owner, and the
-    // new card is what it takes down.
-    Rig rig;
-    rig.showShown(BreakType::Short, 60);
-    const FakeNotificationPresenter::Card old = rig.card();
-    rig.showShown(BreakType::Long, 50);
-    old.onBreakNow();
-    QCOMPARE(rig.journal->constLast(), u"breakNow showing=false"_s);
     QCOMPARE(rig.presenter->hides, 1);
 }
 

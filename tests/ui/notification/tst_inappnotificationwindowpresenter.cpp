@@ -110,7 +110,6 @@ private Q_SLOTS:
     void hidingWaitsForTheEventLoopThenLeavesLeft_data();
     void hidingWaitsForTheEventLoopThenLeavesLeft();
     void aShowWhileTheCardFadesOutKeepsTheNewCard();
-    void hideWithoutACardDoesNothing();
     void textsFollowTheBreakAndTheCountdownTheModel();
     void controlsCallTheirActions_data();
     void controlsCallTheirActions();
@@ -269,15 +268,6 @@ void TestInAppNotificationWindowPresenter::aShowWhileTheCardFadesOutKeepsTheNewC
     runDeferred(&rig.presenter);
     QCOMPARE(rig.presenter.panel(), third.data());
     QVERIFY(third->isVisible());
-}
-
-void TestInAppNotificationWindowPresenter::hideWithoutACardDoesNothing()
-{
-    Rig rig;
-    rig.presenter.hide();
-    runDeferred(&rig.presenter);
-    QCOMPARE(rig.presenter.panel(), nullptr);
-    QVERIFY(QGuiApplication::topLevelWindows().isEmpty());
 }
 
 void TestInAppNotificationWindowPresenter::textsFollowTheBreakAndTheCountdownTheModel()

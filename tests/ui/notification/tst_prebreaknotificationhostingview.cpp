@@ -212,12 +212,8 @@ void TestPreBreakNotificationHostingView::mostlyVerticalScrollingLeavesTheCardAl
 
 void TestPreBreakNotificationHostingView::scrollingTheOtherWayNeverMovesTheCardRight()
 {
-    Rig rig;
-    rig.scroll({}, Qt::ScrollBegin);
-    QVERIFY(!rig.scroll({-50, 0}, Qt::ScrollUpdate));
-    QCOMPARE(rig.card->x(), 0.0);
-
     // A swipe that starts leftwards and then reverses stops at the resting place.
+    Rig rig;
     rig.scroll({}, Qt::ScrollBegin);
     rig.scroll({50, 0}, Qt::ScrollUpdate);
     rig.scroll({-200, 0}, Qt::ScrollUpdate);
