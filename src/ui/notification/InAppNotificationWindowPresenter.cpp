@@ -252,6 +252,7 @@ void InAppNotificationWindowPresenter::hideNow()
     PreBreakNotificationHostingView* host = hostingView(window);
     if (!window || !host || !host->rootView())
         return;
+    host->setLeaving();
     const bool reduce = reduceMotion();
     const double targetX = host->rootView()->x() - (reduce ? 0 : NotificationMotion::slideDistance);
     QPointer<QQuickWindow> leaving(window);

@@ -130,8 +130,21 @@ void PreBreakNotificationHostingView::animateContent(double x, double opacity, i
     group->start();
 }
 
+void PreBreakNotificationHostingView::setLeaving()
+{
+    m_leaving = true;
+    m_tracking = false;
+    m_gestureGap.stop();
+    if (m_rootView)
+        m_rootView->setEnabled(false);
+}
+
 void PreBreakNotificationHostingView::wheelEvent(QWheelEvent* event)
 {
+    if (m_leaving) {
+        event->ignore();
+        return;
+    }
     const bool hasPixelDelta = !event->pixelDelta().isNull();
     const QPointF delta = event->pixelDelta();
     const Qt::ScrollPhase phase = event->phase();

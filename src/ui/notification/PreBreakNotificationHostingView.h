@@ -67,6 +67,9 @@ public:
     [[nodiscard]] double swipeProgress() const { return m_progress; }
     [[nodiscard]] QParallelAnimationGroup* runningAnimation() const;
     void setReduceMotion(bool reduceMotion) { m_reduceMotion = reduceMotion; }
+    // The card is on its way out: no more swipes, and its controls take no more clicks.
+    void setLeaving();
+    [[nodiscard]] bool isLeaving() const { return m_leaving; }
 
     // Moves the content to x and opacity over milliseconds along curve, then calls finished (unless another
     // animation replaced this one first).
@@ -89,6 +92,7 @@ private:
     QPointer<QParallelAnimationGroup> m_animation;
     QTimer m_gestureGap;
     bool m_reduceMotion = false;
+    bool m_leaving = false;
     // A begin phase was seen; the first move decides whether it is a swipe.
     bool m_armed = false;
     bool m_tracking = false;

@@ -232,6 +232,12 @@ void TestInAppNotificationWindowPresenter::hidingWaitsForTheEventLoopThenLeavesL
     QCOMPARE(animationOf(leaving, "opacity")->endValue().toDouble(), 0.0);
     QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
     QCOMPARE(rig.presenter.panel(), panel.data());
+    // A late click on the leaving card is not a second answer.
+    QQuickItem* breakNow = item(panel, u"breakNowButton"_s);
+    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier,
+                      breakNow->mapToScene(QPointF(breakNow->width() / 2, breakNow->height() / 2)).toPoint());
+    QVERIFY(rig.calls.isEmpty());
+    QCOMPARE(rig.host()->runningAnimation(), leaving);
 
     finish(leaving);
     QCOMPARE(rig.presenter.panel(), nullptr);

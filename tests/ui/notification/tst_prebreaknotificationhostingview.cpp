@@ -241,6 +241,11 @@ void TestPreBreakNotificationHostingView::withoutScrollPhasesAPauseSeparatesGest
         rig.scroll({420, 0}, Qt::NoScrollPhase, false, 5016 + PreBreakNotificationHostingView::gestureGapMilliseconds));
     rig.host->endGesture();
     QCOMPARE(rig.dismissals, 1);
+
+    // A card on its way out takes no swipe: its fade must run to the end.
+    rig.host->setLeaving();
+    QVERIFY(!rig.scroll({420, 0}, Qt::NoScrollPhase, false, 9000));
+    QVERIFY(!rig.host->isTracking());
 }
 
 void TestPreBreakNotificationHostingView::aNewAnimationReplacesTheRunningOneWithoutItsEnding()
