@@ -22,6 +22,7 @@ bench: build
 	$(BUILD_DIR)/bench/bench_detection_pass
 	$(BUILD_DIR)/bench/bench_timer_drift
 	$(BUILD_DIR)/bench/bench_overlay_show
+	$(BUILD_DIR)/bench/bench_notification_show
 
 # The break screen at 1920×1080 and the pre-break card, rendered without a display, into docs/screenshots.
 screenshots: build
