@@ -2,7 +2,7 @@
 
 #include "BreakViewModel.h"
 #include "BreakWindow.h"
-#include "DesktopMotion.h"
+#include "DesktopSettings.h"
 #include "NotificationWindowHints.h"
 #include "PreBreakNotificationHostingView.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
@@ -93,13 +93,16 @@ QRect InAppNotificationWindowPresenter::finalFrame(const QRect& availableGeometr
     return {availableGeometry.left() + leftMargin, availableGeometry.top() + topMargin, cardWidth, cardHeight};
 }
 
-InAppNotificationWindowPresenter::InAppNotificationWindowPresenter(std::function<bool()> reduceMotion, QObject* parent)
+InAppNotificationWindowPresenter::InAppNotificationWindowPresenter(std::function<bool()> reduceMotion,
+                                                                   std::function<bool()> naturalScrolling,
+                                                                   QObject* parent)
     : QObject(parent)
     , m_reduceMotion(std::move(reduceMotion))
+    , m_naturalScrolling(std::move(naturalScrolling))
 {
-    if (!m_reduceMotion) {
-        m_desktopMotion = new ReduceMotionSetting(this);
-        m_desktopMotion->refresh();
+    if (!m_reduceMotion || !m_naturalScrolling) {
+        m_desktop = new DesktopSettingsCache(this);
+        m_desktop->refresh();
     }
 }
 
@@ -114,7 +117,14 @@ bool InAppNotificationWindowPresenter::reduceMotion() const
 {
     if (m_reduceMotion)
         return m_reduceMotion();
-    return m_desktopMotion && m_desktopMotion->value();
+    return m_desktop && m_desktop->reduceMotion();
+}
+
+bool InAppNotificationWindowPresenter::naturalScrolling() const
+{
+    if (m_naturalScrolling)
+        return m_naturalScrolling();
+    return m_desktop && m_desktop->naturalScrolling();
 }
 
 QQmlEngine& InAppNotificationWindowPresenter::engine()
@@ -195,6 +205,7 @@ InAppNotificationWindowPresenter::makePanel(std::shared_ptr<PreBreakNotification
     host->setParent(window);
     host->setSize(QSizeF(cardWidth, cardHeight));
     host->setReduceMotion(reduceMotion());
+    host->setNaturalScrolling(naturalScrolling());
     return window;
 }
 
@@ -230,8 +241,8 @@ void InAppNotificationWindowPresenter::show(std::shared_ptr<PreBreakNotification
                          reduce ? NotificationMotion::showReducedMilliseconds : NotificationMotion::showMilliseconds,
                          NotificationMotion::arrivalCurve());
     // The next card uses what the desktop says by then.
-    if (m_desktopMotion)
-        m_desktopMotion->refresh();
+    if (m_desktop)
+        m_desktop->refresh();
 }
 
 void InAppNotificationWindowPresenter::hide()

@@ -19,7 +19,7 @@ namespace velto {
 
 class PreBreakNotificationDisplayModel;
 class PreBreakNotificationHostingView;
-class ReduceMotionSetting;
+class DesktopSettingsCache;
 
 // What the card's controls call; lives with the card's window and keeps the card's model alive while the
 // window is up. Main thread.
@@ -62,9 +62,11 @@ public:
     // Where the card rests on a screen whose free area (panels excluded) is availableGeometry.
     [[nodiscard]] static QRect finalFrame(const QRect& availableGeometry);
 
-    // reduceMotion answers whether the card should only fade; without one, the desktop's animation setting
-    // is read in the background and the latest answer used.
-    explicit InAppNotificationWindowPresenter(std::function<bool()> reduceMotion = {}, QObject* parent = nullptr);
+    // reduceMotion answers whether the card should only fade, naturalScrolling whether touchpad deltas arrive
+    // inverted from the fingers when the events themselves do not say. For each not given, the desktop's
+    // setting is read in the background and the latest answer used.
+    explicit InAppNotificationWindowPresenter(std::function<bool()> reduceMotion = {},
+                                              std::function<bool()> naturalScrolling = {}, QObject* parent = nullptr);
     ~InAppNotificationWindowPresenter() override;
 
     void show(std::shared_ptr<PreBreakNotificationDisplayModel> displayModel, std::function<void()> onBreakNow,
@@ -87,11 +89,13 @@ private:
     void hideNow();
     void closeAtOnce(QQuickWindow* window);
     [[nodiscard]] bool reduceMotion() const;
+    [[nodiscard]] bool naturalScrolling() const;
 
     std::unique_ptr<QQmlEngine> m_engine;
     QPointer<QQuickWindow> m_panel;
     std::function<bool()> m_reduceMotion;
-    ReduceMotionSetting* m_desktopMotion = nullptr;
+    std::function<bool()> m_naturalScrolling;
+    DesktopSettingsCache* m_desktop = nullptr;
 };
 
 } // namespace velto

@@ -176,7 +176,7 @@ void PreBreakNotificationHostingView::wheelEvent(QWheelEvent* event)
     const bool begins = (phase == Qt::ScrollUpdate && m_armed) || (phase == Qt::NoScrollPhase && quietBefore);
     if (phase == Qt::ScrollEnd || phase == Qt::ScrollUpdate)
         m_armed = false;
-    const int direction = NotificationSwipe::direction(event->inverted());
+    const int direction = NotificationSwipe::direction(event->inverted() || m_naturalScrolling);
     if (!begins || window() == nullptr || !NotificationSwipe::starts(hasPixelDelta, delta, direction)) {
         event->ignore();
         return;

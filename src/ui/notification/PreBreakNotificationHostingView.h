@@ -67,6 +67,8 @@ public:
     [[nodiscard]] double swipeProgress() const { return m_progress; }
     [[nodiscard]] QParallelAnimationGroup* runningAnimation() const;
     void setReduceMotion(bool reduceMotion) { m_reduceMotion = reduceMotion; }
+    // The desktop scrolls naturally: deltas come inverted from the fingers though the events do not say so.
+    void setNaturalScrolling(bool naturalScrolling) { m_naturalScrolling = naturalScrolling; }
     // The card is on its way out: no more swipes, and its controls take no more clicks.
     void setLeaving();
     [[nodiscard]] bool isLeaving() const { return m_leaving; }
@@ -92,6 +94,7 @@ private:
     QPointer<QParallelAnimationGroup> m_animation;
     QTimer m_gestureGap;
     bool m_reduceMotion = false;
+    bool m_naturalScrolling = false;
     bool m_leaving = false;
     // A begin phase was seen; the first move decides whether it is a swipe.
     bool m_armed = false;

@@ -195,6 +195,13 @@ void TestPreBreakNotificationHostingView::naturalScrollingSwipesWithNegativeDelt
     rig.scroll({-200, 0}, Qt::ScrollUpdate, true);
     rig.scroll({}, Qt::ScrollEnd, true);
     QCOMPARE(rig.dismissals, 1);
+
+    // Where the events cannot tell (X11), the desktop's touchpad setting says which way the fingers went.
+    Rig x11;
+    x11.host->setNaturalScrolling(true);
+    QVERIFY(!x11.scroll({120, 0}, Qt::NoScrollPhase, false, 1000));
+    QVERIFY(x11.scroll({-120, 0}, Qt::NoScrollPhase, false, 2000));
+    QCOMPARE(x11.card->x(), -120.0);
 }
 
 void TestPreBreakNotificationHostingView::mostlyVerticalScrollingLeavesTheCardAlone()
