@@ -261,7 +261,8 @@ void InAppNotificationWindowPresenter::hideNow()
 {
     QQuickWindow* window = m_panel;
     PreBreakNotificationHostingView* host = hostingView(window);
-    if (!window || !host || !host->rootView())
+    // A card already on its way out keeps its one fade.
+    if (!window || !host || !host->rootView() || host->isLeaving())
         return;
     host->setLeaving();
     const bool reduce = reduceMotion();

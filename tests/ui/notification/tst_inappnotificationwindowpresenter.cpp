@@ -238,6 +238,10 @@ void TestInAppNotificationWindowPresenter::hidingWaitsForTheEventLoopThenLeavesL
                       breakNow->mapToScene(QPointF(breakNow->width() / 2, breakNow->height() / 2)).toPoint());
     QVERIFY(rig.calls.isEmpty());
     QCOMPARE(rig.host()->runningAnimation(), leaving);
+    // Nor does a second hide start the fade over.
+    rig.presenter.hide();
+    runDeferred(&rig.presenter);
+    QCOMPARE(rig.host()->runningAnimation(), leaving);
 
     finish(leaving);
     QCOMPARE(rig.presenter.panel(), nullptr);
