@@ -164,10 +164,10 @@ Item {
                 objectName: "toolbar"
                 spacing: 10
 
-                InAppNotificationToolbarButton {
+                InAppNotificationToolbarButtonStyle {
                     objectName: "breakNowButton"
                     text: qsTr("Break now")
-                    primary: true
+                    role: InAppNotificationToolbarButtonStyle.Primary
                     dark: card.dark
                     primaryColor: card.primaryColor
                     backgroundColor: card.backgroundColor
@@ -176,7 +176,7 @@ Item {
                                   - skip.width
                     onClicked: card.actions.breakNow()
                 }
-                InAppNotificationToolbarButton {
+                InAppNotificationToolbarButtonStyle {
                     id: oneMinute
                     objectName: "pauseOneMinuteButton"
                     text: qsTr("1 min")
@@ -186,7 +186,7 @@ Item {
                     fontFamily: card.fontFamily
                     onClicked: card.actions.pause(60)
                 }
-                InAppNotificationToolbarButton {
+                InAppNotificationToolbarButtonStyle {
                     id: threeMinutes
                     objectName: "pauseThreeMinutesButton"
                     text: qsTr("3 min")
@@ -196,7 +196,7 @@ Item {
                     fontFamily: card.fontFamily
                     onClicked: card.actions.pause(180)
                 }
-                InAppNotificationToolbarButton {
+                InAppNotificationToolbarButtonStyle {
                     id: skip
                     objectName: "skipButton"
                     text: qsTr("Skip")

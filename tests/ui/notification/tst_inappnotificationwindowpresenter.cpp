@@ -360,6 +360,12 @@ void TestInAppNotificationWindowPresenter::coloursFollowTheDesktopPalette()
              QColor::fromRgbF(0.99F, 0.99F, 0.99F).rgba());
     QCOMPARE(item(dark, u"upcomingLabel"_s)->property("color").value<QColor>().rgba(),
              QColor::fromRgbF(0.72F, 0.72F, 0.72F).rgba());
+    // The primary button is filled with the primary colour (white on dark); the others only have a border.
+    auto fill = [dark](const QString& button) { return item(dark, button)->findChild<QQuickItem*>(u"fill"_s); };
+    QCOMPARE(fill(u"breakNowButton"_s)->property("color").value<QColor>(), QColor(Qt::white));
+    QCOMPARE(fill(u"skipButton"_s)->property("color").value<QColor>().alpha(), 0);
+    QCOMPARE(fill(u"skipButton"_s)->property("border").value<QObject*>()->property("color").value<QColor>().alphaF(),
+             0.40F);
     const QColor material = rig.card()->property("materialColor").value<QColor>();
     QCOMPARE(material.rgb(), QColor(0x2b, 0x2b, 0x2e).rgb());
     QVERIFY(material.alphaF() < 1.0F);

@@ -1,19 +1,23 @@
 import QtQuick
 
-// A button of the card's toolbar. Primary: filled with the primary colour, label in the background colour.
-// Secondary: a thin border and a label in the primary colour. Pressing dims and shrinks the whole button.
+// A button of the card's toolbar in one of two roles. Primary: filled with the primary colour, label in the
+// background colour. Secondary: a thin border and a label in the primary colour. Pressing dims and shrinks
+// the whole button.
 Item {
     id: button
 
+    enum Role { Primary, Secondary }
+
     property string text
-    property bool primary: false
+    property int role: InAppNotificationToolbarButtonStyle.Secondary
+    readonly property bool primary: role === InAppNotificationToolbarButtonStyle.Primary
     property bool dark: false
     property color primaryColor
     property color backgroundColor
     property string fontFamily
     // Room the row can give; a primary label shrinks to 85 % before it is cut.
     property real maximumWidth: 10000
-    readonly property bool hovering: mouse.containsMouse
+    readonly property bool isHovering: mouse.containsMouse
     readonly property bool pressed: mouse.pressed
 
     signal clicked()
@@ -39,7 +43,7 @@ Item {
         anchors.fill: parent
         radius: 8
         color: button.primary ? button.primaryColor : "transparent"
-        opacity: button.primary && button.hovering && !button.pressed ? 0.88 : 1
+        opacity: button.primary && button.isHovering && !button.pressed ? 0.88 : 1
         border.width: button.primary ? 0 : 1
         border.color: Qt.rgba(button.primaryColor.r, button.primaryColor.g, button.primaryColor.b,
                               button.dark ? 0.40 : 0.32)
