@@ -4,7 +4,6 @@
 #include "PreBreakNotificationHostingView.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QProcess>
@@ -15,10 +14,12 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <sys/prctl.h>
 #include <xcb/xcb.h>
 
 using namespace velto;
@@ -85,6 +86,12 @@ QPoint rootPosition(xcb_window_t window)
     return position;
 }
 
+// Helpers die with the test, even when it aborts.
+void dieWithParent(QProcess& process)
+{
+    process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+}
+
 // The other application: a plain window that takes the focus and says which window it is.
 int runEditor(int argc, char** argv)
 {
@@ -124,6 +131,7 @@ void TestInAppNotificationWindowPresenterX11::initTestCase()
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
     QTRY_VERIFY_WITH_TIMEOUT(!windowProperty(root, "_NET_SUPPORTING_WM_CHECK").isEmpty(), 10000);
 
+    dieWithParent(m_editor);
     m_editor.start(QCoreApplication::applicationFilePath(), {u"--editor"_s});
     QVERIFY(m_editor.waitForStarted(5000));
     QVERIFY(m_editor.waitForReadyRead(10000));
@@ -223,36 +231,27 @@ int main(int argc, char** argv)
     std::unique_ptr<QProcess> server;
     std::unique_ptr<QProcess> windowManager;
     if (!xvfb.isEmpty() && !openbox.isEmpty() && !xdotoolPath.isEmpty()) {
-        for (int number = 110; number < 140 && xvfbDisplay.isEmpty(); ++number) {
-            if (QFile::exists(u"/tmp/.X%1-lock"_s.arg(number)))
-                continue;
-            const QString display = u":%1"_s.arg(number);
-            server = std::make_unique<QProcess>();
-            server->start(xvfb, {display, u"-nolisten"_s, u"tcp"_s, u"-screen"_s, u"0"_s, u"1280x800x24"_s});
-            if (!server->waitForStarted(3000))
-                continue;
+        // Xvfb picks a free display itself and writes its number once it accepts clients, so test runs in
+        // parallel never share a server.
+        server = std::make_unique<QProcess>();
+        dieWithParent(*server);
+        server->start(xvfb,
+                      {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s, u"0"_s, u"1280x800x24"_s});
+        QByteArray number;
+        if (server->waitForStarted(3000)) {
+            while (!number.endsWith('\n') && server->waitForReadyRead(10000))
+                number += server->readAllStandardOutput();
+        }
+        if (!number.trimmed().isEmpty()) {
+            const QString display = u":"_s + QString::fromLatin1(number.trimmed());
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
             environment.insert(u"DISPLAY"_s, display);
-            bool ready = false;
-            for (int attempt = 0; attempt < 50 && !ready && server->state() == QProcess::Running; ++attempt) {
-                QProcess probe;
-                probe.setProcessEnvironment(environment);
-                probe.start(xdotoolPath, {u"getdisplaygeometry"_s});
-                ready = probe.waitForFinished(2000) && probe.exitCode() == 0;
-                if (!ready)
-                    QTest::qSleep(100);
-            }
-            if (!ready) {
-                server->kill();
-                server->waitForFinished();
-                continue;
-            }
             windowManager = std::make_unique<QProcess>();
             windowManager->setProcessEnvironment(environment);
+            dieWithParent(*windowManager);
             windowManager->start(openbox, {u"--sm-disable"_s});
-            if (!windowManager->waitForStarted(3000))
-                break;
-            xvfbDisplay = display;
+            if (windowManager->waitForStarted(3000))
+                xvfbDisplay = display;
         }
     }
     if (!xvfbDisplay.isEmpty()) {
