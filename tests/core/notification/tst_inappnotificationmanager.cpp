@@ -1,0 +1,312 @@
+#include "FakeNotificationPresenter.h"
+#include "FakeSoundPlayer.h"
+#include "InMemoryUserDefaults.h"
+#include "notification/InAppNotificationManager.h"
+#include "settings/SettingsManager.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A manager with a fake presenter, a hand-fired timer and a hand-run queue; every callback writes to the same
+// journal as the presenter, so the order of dismissal and call-back can be read off.
+struct Rig {
+    Rig()
+    {
+        auto fakePresenter = std::make_unique<FakeNotificationPresenter>();
+        presenter = fakePresenter.get();
+        journal = presenter->journal;
+        auto fakeTimer = std::make_unique<FakeOneShotTimer>();
+        timer = fakeTimer.get();
+        manager = std::make_unique<InAppNotificationManager>(
+            std::move(fakePresenter), &player, &settings, std::move(fakeTimer),
+            [this](QObject* context, std::function<void()> action) { queue.post(context, std::move(action)); });
+        manager->onBreakNow = [this] {
+            journal->append(u"breakNow showing=%1"_s.arg(manager->isShowing() ? u"true"_s : u"false"_s));
+        };
+        manager->onPause = [this](double seconds) {
+            journal->append(u"pause %1 showing=%2"_s.arg(seconds).arg(manager->isShowing() ? u"true"_s : u"false"_s));
+        };
+        manager->onSkip = [this] {
+            journal->append(u"skip showing=%1"_s.arg(manager->isShowing() ? u"true"_s : u"false"_s));
+        };
+    }
+
+    // Shows a card and lets the queued presentation run.
+    void showShown(BreakType type = BreakType::Short, double remaining = 60, double duration = 10)
+    {
+        manager->showPreBreakNotification(type, remaining, duration);
+        queue.runAll();
+    }
+
+    [[nodiscard]] const FakeNotificationPresenter::Card& card() const { return presenter->cards.constLast(); }
+
+    void expectHidden() const
+    {
+        QVERIFY(!manager->isShowing());
+        QCOMPARE(manager->currentBreakType(), std::nullopt);
+        QCOMPARE(manager->currentTimeRemaining(), 0.0);
+        QCOMPARE(manager->activePreBreakDisplayModel(), nullptr);
+        QVERIFY(!manager->isAutoDismissTimerActive());
+    }
+
+    InMemoryUserDefaults store;
+    SettingsManager settings{store, nullptr};
+    FakeSoundPlayer player;
+    ManualQueue queue;
+    FakeNotificationPresenter* presenter = nullptr;
+    FakeOneShotTimer* timer = nullptr;
+    std::shared_ptr<QStringList> journal;
+    std::unique_ptr<InAppNotificationManager> manager;
+};
+
+} // namespace
+
+class TestInAppNotificationManager : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showingPublishesStateBeforeTheCardAppears();
+    void theChimePlaysOnEveryShowWhateverTheSoundSettings();
+    void theTimerTakesTheCardDownWithoutCallingBack();
+    void updatesFollowTheCardOnlyWhileItShows();
+    void choicesDismissAndCallBackInTheirOrder_data();
+    void choicesDismissAndCallBackInTheirOrder();
+    void choicesWithoutCallbacksStillDismiss();
+    void aSecondShowReplacesTheFirst();
+    void dismissTwiceHidesOnce();
+    void theSettingsDecideWhetherAnAnnouncementShows();
+    void nothingQueuedOutlivesTheManager();
+    void theRealTimerFiresOnceAndCanBeReplaced();
+};
+
+void TestInAppNotificationManager::showingPublishesStateBeforeTheCardAppears()
+{
+    Rig rig;
+    QStringList order;
+    connect(rig.manager.get(), &InAppNotificationManager::objectWillChange, this, [&] { order.append(u"will"_s); });
+    connect(rig.manager.get(), &InAppNotificationManager::currentBreakTypeChanged, this,
+            [&] { order.append(u"type"_s); });
+    connect(rig.manager.get(), &InAppNotificationManager::currentTimeRemainingChanged, this,
+            [&] { order.append(u"time"_s); });
+    connect(rig.manager.get(), &InAppNotificationManager::isShowingChanged, this, [&] { order.append(u"showing"_s); });
+
+    rig.manager->showPreBreakNotification(BreakType::Long, 58, 8);
+
+    QCOMPARE(order, QStringList({u"will"_s, u"type"_s, u"will"_s, u"time"_s, u"will"_s, u"showing"_s}));
+    QVERIFY(rig.manager->isShowing());
+    QCOMPARE(rig.manager->currentBreakType(), BreakType::Long);
+    QCOMPARE(rig.manager->currentTimeRemaining(), 58.0);
+    QCOMPARE(rig.timer->interval, 8.0);
+    // The card is queued, not drawn yet.
+    QVERIFY(rig.presenter->cards.isEmpty());
+    QCOMPARE(rig.queue.runAll(), 1);
+    QCOMPARE(rig.presenter->cards.size(), 1);
+    QCOMPARE(rig.card().model.get(), rig.manager->activePreBreakDisplayModel());
+    QCOMPARE(rig.card().model->breakType(), BreakType::Long);
+    QCOMPARE(rig.card().model->timeRemaining(), 58.0);
+}
+
+void TestInAppNotificationManager::theChimePlaysOnEveryShowWhateverTheSoundSettings()
+{
+    Rig rig;
+    NotificationSettings quiet = rig.settings.notificationSettings();
+    quiet.playSoundOnBreakStart = false;
+    quiet.playSoundOnBreakEnd = false;
+    quiet.soundVolume = 0.1F;
+    rig.settings.setNotificationSettings(quiet);
+
+    rig.manager->showPreBreakNotification(BreakType::Short, 60, 10);
+    rig.manager->showPreBreakNotification(BreakType::Short, 59, 10);
+
+    QCOMPARE(rig.player.names(), QStringList({u"Pop"_s, u"Pop"_s}));
+    for (const FakeSoundPlayer::Played& played : rig.player.played)
+        QCOMPARE(played.volume, 1.0F);
+}
+
+void TestInAppNotificationManager::theTimerTakesTheCardDownWithoutCallingBack()
+{
+    Rig rig;
+    rig.showShown(BreakType::Short, 60, 8);
+    QCOMPARE(rig.timer->interval, 8.0);
+
+    QVERIFY(rig.timer->fire());
+    // The dismissal itself is queued behind the timer.
+    QVERIFY(rig.manager->isShowing());
+    rig.queue.runAll();
+
+    rig.expectHidden();
+    QCOMPARE(*rig.journal, QStringList({u"show"_s, u"hide"_s}));
+}
+
+void TestInAppNotificationManager::updatesFollowTheCardOnlyWhileItShows()
+{
+    Rig rig;
+    QSignalSpy changes(rig.manager.get(), &InAppNotificationManager::objectWillChange);
+    rig.manager->updateTimeRemaining(42);
+    QCOMPARE(rig.manager->currentTimeRemaining(), 0.0);
+    QCOMPARE(changes.size(), 0);
+
+    rig.showShown(BreakType::Short, 60);
+    PreBreakNotificationDisplayModel* model = rig.card().model.get();
+    rig.manager->updateTimeRemaining(59);
+    QCOMPARE(rig.manager->currentTimeRemaining(), 59.0);
+    QCOMPARE(model->timeRemaining(), 59.0);
+    QCOMPARE(model->countdownText(), u"0:59"_s);
+
+    rig.manager->dismiss();
+    const std::shared_ptr<PreBreakNotificationDisplayModel> kept = rig.card().model;
+    rig.manager->updateTimeRemaining(58);
+    QCOMPARE(rig.manager->currentTimeRemaining(), 0.0);
+    // The card leaving keeps its last value rather than following a manager that has moved on.
+    QCOMPARE(kept->timeRemaining(), 59.0);
+}
+
+void TestInAppNotificationManager::choicesDismissAndCallBackInTheirOrder_data()
+{
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QStringList>("journal");
+    QTest::newRow("break now") << u"breakNow"_s << QStringList({u"show"_s, u"hide"_s, u"breakNow showing=false"_s});
+    QTest::newRow("one minute") << u"pause60"_s << QStringList({u"show"_s, u"hide"_s, u"pause 60 showing=false"_s});
+    QTest::newRow("three minutes") << u"pause180"_s
+                                   << QStringList({u"show"_s, u"hide"_s, u"pause 180 showing=false"_s});
+    QTest::newRow("skip") << u"skip"_s << QStringList({u"show"_s, u"skip showing=true"_s, u"hide"_s});
+    QTest::newRow("close") << u"dismiss"_s << QStringList({u"show"_s, u"hide"_s});
+}
+
+void TestInAppNotificationManager::choicesDismissAndCallBackInTheirOrder()
+{
+    QFETCH(QString, choice);
+    QFETCH(QStringList, journal);
+    Rig rig;
+    rig.showShown();
+    const FakeNotificationPresenter::Card& card = rig.card();
+    if (choice == u"breakNow"_s)
+        card.onBreakNow();
+    else if (choice == u"pause60"_s)
+        card.onPause(60);
+    else if (choice == u"pause180"_s)
+        card.onPause(180);
+    else if (choice == u"skip"_s)
+        card.onSkip();
+    else
+        card.onDismiss();
+
+    QCOMPARE(*rig.journal, journal);
+    rig.expectHidden();
+    // The choice is final: the timer's later firing has nothing left to take down.
+    QVERIFY(!rig.timer->fire());
+    rig.queue.runAll();
+    QCOMPARE(rig.presenter->hides, 1);
+}
+
+void TestInAppNotificationManager::choicesWithoutCallbacksStillDismiss()
+{
+    Rig rig;
+    rig.manager->onBreakNow = nullptr;
+    rig.manager->onPause = nullptr;
+    rig.manager->onSkip = nullptr;
+    for (int i = 0; i < 3; ++i) {
+        rig.showShown();
+        const FakeNotificationPresenter::Card& card = rig.card();
+        if (i == 0)
+            card.onBreakNow();
+        else if (i == 1)
+            card.onPause(180);
+        else
+            card.onSkip();
+        QVERIFY(!rig.manager->isShowing());
+    }
+    QCOMPARE(rig.presenter->hides, 3);
+}
+
+void TestInAppNotificationManager::aSecondShowReplacesTheFirst()
+{
+    Rig rig;
+    rig.showShown(BreakType::Short, 60, 10);
+    PreBreakNotificationDisplayModel* first = rig.manager->activePreBreakDisplayModel();
+    rig.manager->showPreBreakNotification(BreakType::Long, 30, 6);
+    rig.queue.runAll();
+
+    QCOMPARE(rig.presenter->cards.size(), 2);
+    QVERIFY(rig.manager->activePreBreakDisplayModel() != first);
+    QCOMPARE(rig.card().model->breakType(), BreakType::Long);
+    QCOMPARE(rig.manager->currentBreakType(), BreakType::Long);
+    // The display time counts from the second call.
+    QCOMPARE(rig.timer->starts, 2);
+    QCOMPARE(rig.timer->interval, 6.0);
+    QCOMPARE(rig.player.names(), QStringList({u"Pop"_s, u"Pop"_s}));
+    // Replacing is the presenter's job; the manager does not hide in between.
+    QCOMPARE(rig.presenter->hides, 0);
+    QVERIFY(rig.manager->isShowing());
+}
+
+void TestInAppNotificationManager::dismissTwiceHidesOnce()
+{
+    Rig rig;
+    rig.manager->dismiss();
+    QCOMPARE(rig.presenter->hides, 0);
+    rig.showShown();
+    QSignalSpy changes(rig.manager.get(), &InAppNotificationManager::objectWillChange);
+    rig.manager->dismiss();
+    QCOMPARE(changes.size(), 3);
+    rig.manager->dismiss();
+    QCOMPARE(changes.size(), 3);
+    QCOMPARE(rig.presenter->hides, 1);
+}
+
+void TestInAppNotificationManager::theSettingsDecideWhetherAnAnnouncementShows()
+{
+    Rig rig;
+    NotificationSettings notifications = rig.settings.notificationSettings();
+    notifications.showPreBreakNotification = false;
+    rig.settings.setNotificationSettings(notifications);
+    rig.manager->handlePreBreakNotification(BreakType::Short, 60);
+    rig.queue.runAll();
+    QVERIFY(!rig.manager->isShowing());
+    QVERIFY(rig.player.played.isEmpty());
+    QVERIFY(rig.presenter->cards.isEmpty());
+
+    notifications.showPreBreakNotification = true;
+    notifications.notificationDuration = 12;
+    rig.settings.setNotificationSettings(notifications);
+    rig.manager->handlePreBreakNotification(BreakType::Long, 60);
+    rig.queue.runAll();
+    QVERIFY(rig.manager->isShowing());
+    QCOMPARE(rig.timer->interval, 12.0);
+    QCOMPARE(rig.card().model->breakType(), BreakType::Long);
+}
+
+void TestInAppNotificationManager::nothingQueuedOutlivesTheManager()
+{
+    Rig rig;
+    rig.manager->showPreBreakNotification(BreakType::Short, 60, 10);
+    FakeNotificationPresenter* presenter = rig.presenter;
+    QVERIFY(presenter != nullptr);
+    rig.manager.reset();
+    // The presenter went with the manager; the queued show must not reach it.
+    QCOMPARE(rig.queue.runAll(), 0);
+}
+
+void TestInAppNotificationManager::theRealTimerFiresOnceAndCanBeReplaced()
+{
+    QtOneShotTimer timer;
+    QStringList fired;
+    timer.start(0.001, [&] { fired.append(u"first"_s); });
+    timer.start(0.001, [&] { fired.append(u"second"_s); });
+    QTRY_COMPARE(fired, QStringList({u"second"_s}));
+    QVERIFY(!timer.isActive());
+    timer.start(0.001, [&] { fired.append(u"stopped"_s); });
+    timer.stop();
+    QVERIFY(!timer.isActive());
+    // A later start fires after the stopped one would have; only the later one shows up.
+    timer.start(0.002, [&] { fired.append(u"third"_s); });
+    QTRY_COMPARE(fired, QStringList({u"second"_s, u"third"_s}));
+}
+
+QTEST_GUILESS_MAIN(TestInAppNotificationManager)
+#include "tst_inappnotificationmanager.moc"

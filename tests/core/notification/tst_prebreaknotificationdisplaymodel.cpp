@@ -1,0 +1,76 @@
+#include "notification/PreBreakNotificationDisplayModel.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <limits>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+class TestPreBreakNotificationDisplayModel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void countdown_data();
+    void countdown();
+    void textsFollowTheBreakType();
+    void everyAssignmentIsPublished();
+};
+
+void TestPreBreakNotificationDisplayModel::countdown_data()
+{
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("spoken");
+    QTest::newRow("59.9 is not rounded up") << 59.9 << u"0:59"_s << u"Break in 59 seconds"_s;
+    QTest::newRow("one minute") << 60.0 << u"1:00"_s << u"Break in 1 minute"_s;
+    QTest::newRow("61") << 61.0 << u"1:01"_s << u"Break in 1 minute 1 second"_s;
+    QTest::newRow("125") << 125.0 << u"2:05"_s << u"Break in 2 minutes 5 seconds"_s;
+    QTest::newRow("an hour stays in minutes") << 3600.0 << u"60:00"_s << u"Break in 60 minutes"_s;
+    QTest::newRow("one second") << 1.0 << u"0:01"_s << u"Break in 1 second"_s;
+    QTest::newRow("zero") << 0.0 << u"0:00"_s << u"Break in 0 seconds"_s;
+    QTest::newRow("below zero reads zero") << -3.5 << u"0:00"_s << u"Break in 0 seconds"_s;
+    QTest::newRow("NaN reads zero") << std::numeric_limits<double>::quiet_NaN() << u"0:00"_s << u"Break in 0 seconds"_s;
+    QTest::newRow("two minutes one second") << 121.0 << u"2:01"_s << u"Break in 2 minutes 1 second"_s;
+}
+
+void TestPreBreakNotificationDisplayModel::countdown()
+{
+    QFETCH(double, seconds);
+    QFETCH(QString, text);
+    QFETCH(QString, spoken);
+    PreBreakNotificationDisplayModel model(BreakType::Short, seconds);
+    QCOMPARE(model.countdownText(), text);
+    QCOMPARE(model.countdownSpokenLabel(), spoken);
+}
+
+void TestPreBreakNotificationDisplayModel::textsFollowTheBreakType()
+{
+    const PreBreakNotificationDisplayModel quick(BreakType::Short, 60);
+    const PreBreakNotificationDisplayModel deep(BreakType::Long, 60);
+    QCOMPARE(quick.title(), u"Quick break coming up"_s);
+    QCOMPARE(deep.title(), u"Deep rest coming up"_s);
+    QCOMPARE(quick.message(), u"Save your place and finish the thought you’re on. A quick reset is almost here."_s);
+    QCOMPARE(deep.message(), u"Wrap up or park your task. You’re nearly at a longer chance to step away."_s);
+    // The typographic apostrophe, not the typewriter one.
+    QVERIFY(!quick.message().contains(u'\''));
+    QVERIFY(!deep.message().contains(u'\''));
+}
+
+void TestPreBreakNotificationDisplayModel::everyAssignmentIsPublished()
+{
+    PreBreakNotificationDisplayModel model(BreakType::Long, 60);
+    QStringList order;
+    connect(&model, &PreBreakNotificationDisplayModel::objectWillChange, this,
+            [&] { order.append(u"will %1"_s.arg(model.timeRemaining())); });
+    connect(&model, &PreBreakNotificationDisplayModel::timeRemainingChanged, this,
+            [&](double value) { order.append(u"changed %1 %2"_s.arg(value).arg(model.countdownText())); });
+    model.setTimeRemaining(59);
+    model.setTimeRemaining(59);
+    QCOMPARE(order, QStringList({u"will 60"_s, u"changed 59 0:59"_s, u"will 59"_s, u"changed 59 0:59"_s}));
+    QCOMPARE(model.breakType(), BreakType::Long);
+}
+
+QTEST_GUILESS_MAIN(TestPreBreakNotificationDisplayModel)
+#include "tst_prebreaknotificationdisplaymodel.moc"

@@ -1,0 +1,446 @@
+#include "FakeSoundPlayer.h"
+#include "InAppNotificationWindowPresenter.h"
+#include "PreBreakNotificationHostingView.h"
+#include "notification/InAppNotificationManager.h"
+#include "notification/PreBreakNotificationDisplayModel.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QParallelAnimationGroup>
+#include <QPropertyAnimation>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlExpression>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Two screens; the primary one (the offscreen platform makes it a-main) is not at the origin, and
+// another lies to its left.
+constexpr char screensConfig[] = R"({"screens": [
+    {"name": "b-left", "x": 0, "y": 0, "width": 1920, "height": 1080},
+    {"name": "a-main", "x": 1920, "y": 100, "width": 1600, "height": 900}
+]})";
+
+// A presenter with reduce motion under the test's control, and a journal of what the card's controls call.
+struct Rig {
+    InAppNotificationWindowPresenter presenter{[this] { return reduceMotion; }};
+    bool reduceMotion = false;
+    QStringList calls;
+    std::shared_ptr<PreBreakNotificationDisplayModel> model;
+
+    QQuickWindow* show(BreakType type = BreakType::Short, double remaining = 59)
+    {
+        model = std::make_shared<PreBreakNotificationDisplayModel>(type, remaining);
+        presenter.show(
+            model, [this] { calls.append(u"breakNow"_s); },
+            [this](double seconds) { calls.append(u"pause %1"_s.arg(seconds)); }, [this] { calls.append(u"skip"_s); },
+            [this] { calls.append(u"dismiss"_s); });
+        return presenter.panel();
+    }
+
+    [[nodiscard]] PreBreakNotificationHostingView* host() const
+    {
+        return InAppNotificationWindowPresenter::hostingView(presenter.panel());
+    }
+    [[nodiscard]] QQuickItem* card() const { return host() ? host()->rootView() : nullptr; }
+};
+
+QQuickItem* item(QQuickWindow* window, const QString& name)
+{
+    return window ? window->findChild<QQuickItem*>(name) : nullptr;
+}
+
+QVariant evaluate(QQuickItem* target, const QString& expression)
+{
+    QQmlExpression e(qmlContext(target), target, expression);
+    return e.evaluate();
+}
+
+QPropertyAnimation* animationOf(QParallelAnimationGroup* group, const char* property)
+{
+    for (int i = 0; group && i < group->animationCount(); ++i) {
+        auto* animation = qobject_cast<QPropertyAnimation*>(group->animationAt(i));
+        if (animation && animation->propertyName() == property)
+            return animation;
+    }
+    return nullptr;
+}
+
+void finish(QAbstractAnimation* animation)
+{
+    QVERIFY(animation != nullptr);
+    animation->setCurrentTime(animation->totalDuration());
+}
+
+// Lets the presenter's deferred hide run.
+void runDeferred(QObject* presenter)
+{
+    QCoreApplication::sendPostedEvents(presenter, QEvent::MetaCall);
+}
+
+QPalette paletteWithWindow(const QColor& color)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, color);
+    return palette;
+}
+
+} // namespace
+
+class TestInAppNotificationWindowPresenter : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void theCardRestsAtTheTopLeftOfThePrimaryScreen();
+    void theWindowStaysOutOfTheUsersWay();
+    void theEngineIsMadeOnFirstUseAndKept();
+    void arrivalSlidesAndFades_data();
+    void arrivalSlidesAndFades();
+    void hidingWaitsForTheEventLoopThenLeavesLeft_data();
+    void hidingWaitsForTheEventLoopThenLeavesLeft();
+    void aShowWhileTheCardFadesOutKeepsTheNewCard();
+    void textsFollowTheBreakAndTheCountdownTheModel();
+    void controlsCallTheirActions_data();
+    void controlsCallTheirActions();
+    void coloursFollowTheDesktopPalette();
+    void aSwipeOverTheButtonsReachesTheCard();
+    void theManagerDrivesARealCard();
+};
+
+void TestInAppNotificationWindowPresenter::init()
+{
+    QGuiApplication::setPalette(paletteWithWindow(QColor(0xf6, 0xf6, 0xf6)));
+}
+
+void TestInAppNotificationWindowPresenter::cleanup()
+{
+    QTRY_VERIFY(QGuiApplication::topLevelWindows().isEmpty());
+}
+
+void TestInAppNotificationWindowPresenter::theCardRestsAtTheTopLeftOfThePrimaryScreen()
+{
+    QCOMPARE(InAppNotificationWindowPresenter::finalFrame(QRect(0, 32, 1920, 1048)), QRect(16, 52, 420, 216));
+
+    Rig rig;
+    QQuickWindow* panel = rig.show();
+    QVERIFY(panel != nullptr);
+    QScreen* primary = QGuiApplication::primaryScreen();
+    QCOMPARE(primary->name(), u"a-main"_s);
+    QCOMPARE(panel->screen(), primary);
+    QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
+    QVERIFY(QTest::qWaitForWindowExposed(panel));
+    // The slide happens inside: the window does not move while the card arrives.
+    finish(rig.host()->runningAnimation());
+    QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
+    QCOMPARE(rig.card()->size(), QSizeF(420, 216));
+}
+
+void TestInAppNotificationWindowPresenter::theWindowStaysOutOfTheUsersWay()
+{
+    Rig rig;
+    QQuickWindow* panel = rig.show();
+    const Qt::WindowFlags flags = panel->flags();
+    QCOMPARE(flags & Qt::WindowType_Mask, Qt::Tool);
+    QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
+    QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
+    QVERIFY(panel->isVisible());
+    QVERIFY(QGuiApplication::focusWindow() != panel);
+}
+
+void TestInAppNotificationWindowPresenter::theEngineIsMadeOnFirstUseAndKept()
+{
+    Rig rig;
+    QCOMPARE(rig.presenter.engineIfCreated(), nullptr);
+    rig.show();
+    QQmlEngine* engine = rig.presenter.engineIfCreated();
+    QVERIFY(engine != nullptr);
+    rig.show();
+    QCOMPARE(rig.presenter.engineIfCreated(), engine);
+}
+
+void TestInAppNotificationWindowPresenter::arrivalSlidesAndFades_data()
+{
+    QTest::addColumn<bool>("reduceMotion");
+    QTest::addColumn<double>("startX");
+    QTest::addColumn<int>("milliseconds");
+    QTest::newRow("slides 28 px while fading in") << false << -28.0 << 320;
+    QTest::newRow("reduced motion only fades") << true << 0.0 << 160;
+}
+
+void TestInAppNotificationWindowPresenter::arrivalSlidesAndFades()
+{
+    QFETCH(bool, reduceMotion);
+    QFETCH(double, startX);
+    QFETCH(int, milliseconds);
+    Rig rig;
+    rig.reduceMotion = reduceMotion;
+    rig.show();
+    QCOMPARE(rig.card()->x(), startX);
+    QCOMPARE(rig.card()->opacity(), 0.0);
+    QParallelAnimationGroup* arrival = rig.host()->runningAnimation();
+    QPropertyAnimation* slide = animationOf(arrival, "x");
+    QPropertyAnimation* fade = animationOf(arrival, "opacity");
+    QVERIFY(slide && fade);
+    QCOMPARE(slide->duration(), milliseconds);
+    QCOMPARE(fade->duration(), milliseconds);
+    QCOMPARE(slide->easingCurve(), NotificationMotion::arrivalCurve());
+    // Quick to move, slow to settle: most of the way there at a third of the time.
+    QVERIFY(slide->easingCurve().valueForProgress(1.0 / 3) > 0.8);
+    finish(arrival);
+    QCOMPARE(rig.card()->x(), 0.0);
+    QCOMPARE(rig.card()->opacity(), 1.0);
+}
+
+void TestInAppNotificationWindowPresenter::hidingWaitsForTheEventLoopThenLeavesLeft_data()
+{
+    QTest::addColumn<bool>("reduceMotion");
+    QTest::addColumn<double>("endX");
+    QTest::addColumn<int>("milliseconds");
+    QTest::newRow("slides back 28 px") << false << -28.0 << 200;
+    QTest::newRow("reduced motion fades in place") << true << 0.0 << 140;
+}
+
+void TestInAppNotificationWindowPresenter::hidingWaitsForTheEventLoopThenLeavesLeft()
+{
+    QFETCH(bool, reduceMotion);
+    QFETCH(double, endX);
+    QFETCH(int, milliseconds);
+    Rig rig;
+    rig.reduceMotion = reduceMotion;
+    QPointer<QQuickWindow> panel = rig.show();
+    finish(rig.host()->runningAnimation());
+
+    rig.presenter.hide();
+    QCOMPARE(rig.host()->runningAnimation(), nullptr);
+    runDeferred(&rig.presenter);
+    QParallelAnimationGroup* leaving = rig.host()->runningAnimation();
+    QPropertyAnimation* slide = animationOf(leaving, "x");
+    QVERIFY(slide != nullptr);
+    QCOMPARE(slide->duration(), milliseconds);
+    QCOMPARE(slide->endValue().toDouble(), endX);
+    QCOMPARE(animationOf(leaving, "opacity")->endValue().toDouble(), 0.0);
+    QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
+    QCOMPARE(rig.presenter.panel(), panel.data());
+    // A late click on the leaving card is not a second answer.
+    QQuickItem* breakNow = item(panel, u"breakNowButton"_s);
+    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier,
+                      breakNow->mapToScene(QPointF(breakNow->width() / 2, breakNow->height() / 2)).toPoint());
+    QVERIFY(rig.calls.isEmpty());
+    QCOMPARE(rig.host()->runningAnimation(), leaving);
+    // Nor does a second hide start the fade over.
+    rig.presenter.hide();
+    runDeferred(&rig.presenter);
+    QCOMPARE(rig.host()->runningAnimation(), leaving);
+
+    finish(leaving);
+    QCOMPARE(rig.presenter.panel(), nullptr);
+    QVERIFY(!panel->isVisible());
+    QTRY_VERIFY(panel.isNull());
+}
+
+void TestInAppNotificationWindowPresenter::aShowWhileTheCardFadesOutKeepsTheNewCard()
+{
+    Rig rig;
+    QPointer<QQuickWindow> first = rig.show(BreakType::Short);
+    finish(rig.host()->runningAnimation());
+    rig.presenter.hide();
+    runDeferred(&rig.presenter);
+    QPointer<QParallelAnimationGroup> fading = rig.host()->runningAnimation();
+    QVERIFY(fading);
+
+    QPointer<QQuickWindow> second = rig.show(BreakType::Long);
+    QVERIFY(second && second != first);
+    // The fading card is gone at once.
+    QVERIFY(!first || !first->isVisible());
+    QCOMPARE(rig.presenter.panel(), second.data());
+    // Its fade, had it run out, would not take the new card with it.
+    if (fading)
+        finish(fading);
+    QCOMPARE(rig.presenter.panel(), second.data());
+    QTRY_VERIFY(first.isNull());
+    QVERIFY(second->isVisible());
+    QCOMPARE(item(second, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
+
+    // A hide queued before a show runs first, so the show still wins.
+    rig.presenter.hide();
+    QPointer<QQuickWindow> third = rig.show(BreakType::Short);
+    runDeferred(&rig.presenter);
+    QCOMPARE(rig.presenter.panel(), third.data());
+    QVERIFY(third->isVisible());
+}
+
+void TestInAppNotificationWindowPresenter::textsFollowTheBreakAndTheCountdownTheModel()
+{
+    Rig rig;
+    QQuickWindow* panel = rig.show(BreakType::Short, 59.9);
+    auto text = [panel](const QString& name) { return item(panel, name)->property("text").toString(); };
+    QCOMPARE(text(u"upcomingLabel"_s), u"UPCOMING BREAK"_s);
+    QCOMPARE(text(u"titleText"_s), u"Quick break coming up"_s);
+    QCOMPARE(text(u"bodyText"_s), PreBreakNotificationDisplayModel::messageFor(BreakType::Short));
+    QCOMPARE(text(u"countdownText"_s), u"0:59"_s);
+    QQuickItem* countdown = item(panel, u"countdownBlock"_s);
+    QCOMPARE(evaluate(countdown, u"Accessible.name"_s).toString(), u"Break in 59 seconds"_s);
+
+    rig.model->setTimeRemaining(125);
+    QCOMPARE(text(u"countdownText"_s), u"2:05"_s);
+    QCOMPARE(evaluate(countdown, u"Accessible.name"_s).toString(), u"Break in 2 minutes 5 seconds"_s);
+
+    QCOMPARE(item(panel, u"breakNowButton"_s)->property("text").toString(), u"Break now"_s);
+    QCOMPARE(item(panel, u"pauseOneMinuteButton"_s)->property("text").toString(), u"1 min"_s);
+    QCOMPARE(item(panel, u"pauseThreeMinutesButton"_s)->property("text").toString(), u"3 min"_s);
+    QQuickItem* skip = item(panel, u"skipButton"_s);
+    QCOMPARE(skip->property("text").toString(), u"Skip"_s);
+    QCOMPARE(evaluate(skip, u"Accessible.name"_s).toString(), u"Skip break"_s);
+    QCOMPARE(evaluate(skip, u"Accessible.description"_s).toString(),
+             u"Returns to work and skips this break when your skip settings allow."_s);
+    QCOMPARE(evaluate(item(panel, u"dismissButton"_s), u"Accessible.name"_s).toString(), u"Dismiss"_s);
+    QCOMPARE(evaluate(item(panel, u"swipeHint"_s), u"Accessible.name"_s).toString(), u"Swipe to close"_s);
+    // The buttons keep to one row inside the card's padding.
+    QQuickItem* toolbar = item(panel, u"toolbar"_s);
+    QVERIFY(toolbar->mapToScene(QPointF(toolbar->width(), 0)).x() <= 420 - 22);
+
+    QQuickWindow* longPanel = rig.show(BreakType::Long, 3600);
+    QCOMPARE(item(longPanel, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
+    QCOMPARE(item(longPanel, u"bodyText"_s)->property("text").toString(),
+             u"Wrap up or park your task. You’re nearly at a longer chance to step away."_s);
+    QCOMPARE(item(longPanel, u"countdownText"_s)->property("text").toString(), u"60:00"_s);
+}
+
+void TestInAppNotificationWindowPresenter::controlsCallTheirActions_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("call");
+    QTest::newRow("break now") << u"breakNowButton"_s << u"breakNow"_s;
+    QTest::newRow("1 min") << u"pauseOneMinuteButton"_s << u"pause 60"_s;
+    QTest::newRow("3 min") << u"pauseThreeMinutesButton"_s << u"pause 180"_s;
+    QTest::newRow("skip") << u"skipButton"_s << u"skip"_s;
+    QTest::newRow("close") << u"dismissButton"_s << u"dismiss"_s;
+}
+
+void TestInAppNotificationWindowPresenter::controlsCallTheirActions()
+{
+    QFETCH(QString, control);
+    QFETCH(QString, call);
+    Rig rig;
+    QQuickWindow* panel = rig.show();
+    QVERIFY(QTest::qWaitForWindowExposed(panel));
+    finish(rig.host()->runningAnimation());
+    QQuickItem* target = item(panel, control);
+    QVERIFY(target != nullptr);
+    const QPoint centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint();
+    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier, centre);
+    QCOMPARE(rig.calls, QStringList({call}));
+}
+
+void TestInAppNotificationWindowPresenter::coloursFollowTheDesktopPalette()
+{
+    Rig rig;
+    QQuickWindow* light = rig.show();
+    QCOMPARE(rig.card()->property("dark").toBool(), false);
+    QCOMPARE(item(light, u"titleText"_s)->property("color").value<QColor>().rgba(),
+             QColor::fromRgbF(0.06F, 0.06F, 0.06F).rgba());
+    QCOMPARE(item(light, u"bodyText"_s)->property("color").value<QColor>().rgba(),
+             QColor::fromRgbF(0.18F, 0.18F, 0.18F).rgba());
+
+    QGuiApplication::setPalette(paletteWithWindow(QColor(0x2b, 0x2b, 0x2e)));
+    QQuickWindow* dark = rig.show();
+    QCOMPARE(rig.card()->property("dark").toBool(), true);
+    QCOMPARE(item(dark, u"titleText"_s)->property("color").value<QColor>().rgba(),
+             QColor::fromRgbF(0.99F, 0.99F, 0.99F).rgba());
+    QCOMPARE(item(dark, u"upcomingLabel"_s)->property("color").value<QColor>().rgba(),
+             QColor::fromRgbF(0.72F, 0.72F, 0.72F).rgba());
+    // The primary button is filled with the primary colour (white on dark); the others only have a border.
+    auto fill = [dark](const QString& button) { return item(dark, button)->findChild<QQuickItem*>(u"fill"_s); };
+    QCOMPARE(fill(u"breakNowButton"_s)->property("color").value<QColor>(), QColor(Qt::white));
+    QCOMPARE(fill(u"skipButton"_s)->property("color").value<QColor>().alpha(), 0);
+    QCOMPARE(fill(u"skipButton"_s)->property("border").value<QObject*>()->property("color").value<QColor>().alphaF(),
+             0.40F);
+    const QColor material = rig.card()->property("materialColor").value<QColor>();
+    QCOMPARE(material.rgb(), QColor(0x2b, 0x2b, 0x2e).rgb());
+    QVERIFY(material.alphaF() < 1.0F);
+}
+
+void TestInAppNotificationWindowPresenter::aSwipeOverTheButtonsReachesTheCard()
+{
+    // Delivered the way the window delivers it, over a button: the controls let it pass to the card's host.
+    Rig rig;
+    QQuickWindow* panel = rig.show();
+    QVERIFY(QTest::qWaitForWindowExposed(panel));
+    finish(rig.host()->runningAnimation());
+    QQuickItem* button = item(panel, u"pauseOneMinuteButton"_s);
+    const QPointF at = button->mapToScene(QPointF(button->width() / 2, button->height() / 2));
+    auto scroll = [&](QPoint pixels, Qt::ScrollPhase phase) {
+        QWheelEvent event(at, panel->mapToGlobal(at), pixels, pixels * 12, Qt::NoButton, Qt::NoModifier, phase, false);
+        QCoreApplication::sendEvent(panel, &event);
+    };
+    scroll({}, Qt::ScrollBegin);
+    scroll({250, 0}, Qt::ScrollUpdate);
+    QCOMPARE(rig.card()->x(), -250.0);
+    scroll({250, 0}, Qt::ScrollUpdate);
+    scroll({}, Qt::ScrollEnd);
+    QCOMPARE(rig.calls, QStringList({u"dismiss"_s}));
+}
+
+void TestInAppNotificationWindowPresenter::theManagerDrivesARealCard()
+{
+    FakeSoundPlayer player;
+    auto presenter = std::make_unique<InAppNotificationWindowPresenter>([] { return false; });
+    InAppNotificationWindowPresenter* view = presenter.get();
+    InAppNotificationManager manager(std::move(presenter), &player, nullptr);
+    QStringList calls;
+    manager.onSkip = [&] { calls.append(u"skip showing=%1"_s.arg(manager.isShowing() ? u"yes"_s : u"no"_s)); };
+
+    manager.showPreBreakNotification(BreakType::Short, 45, 8);
+    QCOMPARE(view->panel(), nullptr);
+    QTRY_VERIFY(view->panel() != nullptr);
+    QQuickWindow* panel = view->panel();
+    QVERIFY(QTest::qWaitForWindowExposed(panel));
+    manager.updateTimeRemaining(44);
+    QCOMPARE(item(panel, u"countdownText"_s)->property("text").toString(), u"0:44"_s);
+
+    // A card replaced in the same turn as the dismissal still comes up.
+    manager.dismiss();
+    manager.showPreBreakNotification(BreakType::Long, 44, 8);
+    QTRY_VERIFY(view->panel() != nullptr && view->panel() != panel);
+    panel = view->panel();
+    QVERIFY(panel->isVisible());
+    QCOMPARE(item(panel, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
+
+    QVERIFY(QTest::qWaitForWindowExposed(panel));
+    finish(InAppNotificationWindowPresenter::hostingView(panel)->runningAnimation());
+    QQuickItem* skip = item(panel, u"skipButton"_s);
+    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier,
+                      skip->mapToScene(QPointF(skip->width() / 2, skip->height() / 2)).toPoint());
+    QCOMPARE(calls, QStringList({u"skip showing=yes"_s}));
+    QVERIFY(!manager.isShowing());
+    QTRY_COMPARE(view->panel(), nullptr);
+}
+
+int main(int argc, char** argv)
+{
+    QTemporaryDir configDir;
+    const QString config = configDir.filePath(u"screens.json"_s);
+    QFile file(config);
+    if (!file.open(QIODevice::WriteOnly) || file.write(screensConfig) < 0)
+        return 1;
+    file.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.toLocal8Bit());
+    QGuiApplication app(argc, argv);
+    TestInAppNotificationWindowPresenter test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_inappnotificationwindowpresenter.moc"
