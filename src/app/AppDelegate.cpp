@@ -1,11 +1,13 @@
 #include "AppDelegate.h"
 
 #include "BreakWindow.h"
+#include "InAppNotificationWindowPresenter.h"
 #include "StandardUpdaterController.h"
 #include "SystemSleepSignals.h"
 #include "UpdateAvailabilityModel.h"
 #include "UpdateWindow.h"
 #include "detection/ActivityDetector.h"
+#include "notification/InAppNotificationManager.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 #include "tray/StatusItem.h"
@@ -29,6 +31,11 @@ AppDelegate::AppDelegate(AppServices services, QObject* parent)
     // Days and office hours follow the system's local time as it changes.
     m_breakManager = new BreakManager(*m_services.userDefaults, std::nullopt, {}, this);
     m_breakManager->setKeyDownTimeProvider(m_services.keyDownTime.get());
+    auto presenter = std::move(m_services.notificationPresenter);
+    if (!presenter)
+        presenter = std::make_unique<InAppNotificationWindowPresenter>();
+    m_inAppNotificationManager =
+        new InAppNotificationManager(std::move(presenter), m_services.sounds.get(), m_settingsManager, {}, {}, this);
     // Built now, started only when reminders are on.
     m_activityDetector = new ActivityDetector(std::move(m_services.detectionProviders), this);
 
@@ -50,6 +57,7 @@ AppDelegate::~AppDelegate()
     delete m_statusItem;
     delete m_updaterController;
     delete m_activityDetector;
+    delete m_inAppNotificationManager;
     delete m_breakManager;
     delete m_settingsManager;
 }
@@ -117,10 +125,33 @@ void AppDelegate::wireComponents()
             Qt::QueuedConnection);
     };
 
+    m_breakManager->onTimerUpdate = [self](double seconds) {
+        if (self)
+            self->m_inAppNotificationManager->updateTimeRemaining(seconds);
+    };
+
     connect(m_breakManager, &BreakManager::objectWillChange, this, &AppDelegate::scheduleStatusItemUpdate);
     connect(m_settingsManager, &SettingsManager::showTimerInMenuBarChanged, this,
             &AppDelegate::scheduleStatusItemUpdate);
     scheduleStatusItemUpdate();
+
+    m_breakManager->onPreBreakNotification = [self](BreakType type, double seconds) {
+        // Shown only when the user wants the card, for as long as the settings say.
+        if (self)
+            self->m_inAppNotificationManager->handlePreBreakNotification(type, seconds);
+    };
+    m_inAppNotificationManager->onBreakNow = [self] {
+        if (self)
+            self->m_breakManager->takeBreakNow();
+    };
+    m_inAppNotificationManager->onPause = [self](double seconds) {
+        if (self)
+            self->m_breakManager->pauseFor(seconds);
+    };
+    m_inAppNotificationManager->onSkip = [self] {
+        if (self)
+            self->m_breakManager->skipUpcomingBreak();
+    };
 
     applySmartPauseSettings();
     m_breakManager->setActivityDetector(m_activityDetector);
@@ -361,6 +392,9 @@ void AppDelegate::quit()
         QCoreApplication::quit();
 }
 
-void AppDelegate::triggerTestPreBreakNotification() {}
+void AppDelegate::triggerTestPreBreakNotification()
+{
+    m_inAppNotificationManager->showPreBreakNotification(BreakType::Short, 45, 8);
+}
 
 } // namespace velto

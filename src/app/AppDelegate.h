@@ -15,6 +15,7 @@ namespace velto {
 class ActivityDetector;
 class BreakManager;
 class BreakWindow;
+class InAppNotificationManager;
 class SettingsManager;
 class StandardUpdaterController;
 class StatusItem;
@@ -62,6 +63,7 @@ public:
     [[nodiscard]] SettingsManager* settingsManager() const { return m_settingsManager; }
     [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }
     [[nodiscard]] ActivityDetector* activityDetector() const { return m_activityDetector; }
+    [[nodiscard]] InAppNotificationManager* inAppNotificationManager() const { return m_inAppNotificationManager; }
     [[nodiscard]] BreakWindow* breakWindow() const;
     [[nodiscard]] StatusItem* statusItem() const;
     [[nodiscard]] UpdateAvailabilityModel* updateAvailability() const { return m_updateAvailability; }
@@ -83,6 +85,7 @@ private:
     QPointer<BreakWindow> m_breakWindow;
     SettingsManager* m_settingsManager = nullptr;
     BreakManager* m_breakManager = nullptr;
+    InAppNotificationManager* m_inAppNotificationManager = nullptr;
     ActivityDetector* m_activityDetector = nullptr;
     UpdateAvailabilityModel* m_updateAvailability = nullptr;
     StandardUpdaterController* m_updaterController = nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "detection/DetectionProviders.h"
+#include "notification/NotificationWindowPresenting.h"
 #include "scheduling/KeyDownTimeProviding.h"
 #include "scheduling/ScreenLocking.h"
 #include "scheduling/SoundPlaying.h"
@@ -22,6 +23,8 @@ struct AppServices {
     std::unique_ptr<SoundPlaying> sounds;
     std::unique_ptr<ScreenLocking> screenLock;
     std::unique_ptr<SystemSleepSignals> sleepSignals;
+    // The pre-break card's window; when none is given the shell makes the real one.
+    std::unique_ptr<NotificationWindowPresenting> notificationPresenter;
     // Off in tests: the updater reaches out to the network on its own schedule.
     bool runsUpdater = false;
 

@@ -3,12 +3,15 @@
 #include "FakeDetectionProviders.h"
 #include "FakeKeyDownTime.h"
 #include "FakeLaunchAtLogin.h"
+#include "FakeNotificationPresenter.h"
 #include "FakeScreenLock.h"
 #include "FakeSoundPlayer.h"
 #include "InMemoryUserDefaults.h"
 #include "PrivateSystemBus.h"
 #include "SystemSleepSignals.h"
 #include "detection/ActivityDetector.h"
+#include "notification/InAppNotificationManager.h"
+#include "notification/PreBreakNotificationDisplayModel.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 #include "tray/StatusItem.h"
@@ -42,6 +45,9 @@ struct ShellUnderTest {
         services.sounds = std::move(soundPlayer);
         services.screenLock = std::make_unique<FakeScreenLock>();
         services.sleepSignals = std::make_unique<SystemSleepSignals>();
+        auto cardPresenter = std::make_unique<FakeNotificationPresenter>();
+        presenter = cardPresenter.get();
+        services.notificationPresenter = std::move(cardPresenter);
         delegate = std::make_unique<AppDelegate>(std::move(services));
         delegate->onQuit = [this] { ++quits; };
         delegate->applicationDidFinishLaunching();
@@ -53,6 +59,7 @@ struct ShellUnderTest {
     FakeDetectionProviders providers;
     InMemoryUserDefaults* userDefaults = nullptr;
     FakeSoundPlayer* sounds = nullptr;
+    FakeNotificationPresenter* presenter = nullptr;
     std::unique_ptr<AppDelegate> delegate;
     int quits = 0;
 };
@@ -244,6 +251,55 @@ private Q_SLOTS:
         turnEventLoop();
         QCOMPARE(item->iconRedraws(), redraws + 2);
         QCOMPARE(item->toolTip(), u"Velto\nUntil next break"_s);
+    }
+
+    void theCardComesBeforeTheBreakAndItsButtonsReachTheScheduler()
+    {
+        ShellUnderTest shell;
+        auto tickToTheCard = [&] {
+            while (shell.breaks().timeRemaining() > 60)
+                shell.breaks().workTick();
+            // The card's window follows on the next turn.
+            turnEventLoop();
+        };
+        tickToTheCard();
+        QCOMPARE(shell.presenter->cards.size(), 1);
+        QCOMPARE(shell.sounds->names(), QStringList{u"Pop"_s});
+        // The card counts down with the scheduler.
+        shell.breaks().workTick();
+        QCOMPARE(shell.delegate->inAppNotificationManager()->currentTimeRemaining(), 59.0);
+
+        shell.presenter->cards.last().onPause(180);
+        QCOMPARE(shell.breaks().state(), BreakState::Paused);
+        QVERIFY(shell.breaks().pauseReason()->resumesAt.has_value());
+        shell.breaks().resume();
+        shell.breaks().skipUpcomingBreak();
+        QCOMPARE(shell.breaks().timeRemaining(), shell.settings().breakConfiguration().workInterval);
+
+        tickToTheCard();
+        QCOMPARE(shell.presenter->cards.size(), 2);
+        shell.presenter->cards.last().onSkip();
+        QCOMPARE(shell.breaks().timeRemaining(), shell.settings().breakConfiguration().workInterval);
+
+        tickToTheCard();
+        shell.presenter->cards.last().onBreakNow();
+        QCOMPARE(shell.breaks().state(), BreakState::OnBreak);
+        shell.breaks().endBreak(true);
+
+        // With the card switched off the scheduler still announces the break, and nothing shows.
+        NotificationSettings quiet = shell.settings().notificationSettings();
+        quiet.showPreBreakNotification = false;
+        shell.settings().setNotificationSettings(quiet);
+        tickToTheCard();
+        shell.breaks().workTick();
+        QVERIFY(shell.breaks().preBreakNotificationSent());
+        QCOMPARE(shell.presenter->cards.size(), 3);
+
+        // The test card ignores both the settings and the state.
+        shell.delegate->triggerTestPreBreakNotification();
+        turnEventLoop();
+        QCOMPARE(shell.presenter->cards.size(), 4);
+        QCOMPARE(shell.delegate->inAppNotificationManager()->currentTimeRemaining(), 45.0);
     }
 
     void smartPauseChangesReachTheDetectorWithoutResettingTheCountdown()
