@@ -84,7 +84,9 @@ BreakWindow::~BreakWindow()
 
 void BreakWindow::useSoftwareRendering()
 {
-    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
+    // Asking again once a scene graph exists only draws a warning from Qt.
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") &&
+        QQuickWindow::graphicsApi() != QSGRendererInterface::Software)
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
