@@ -85,9 +85,10 @@ BreakWindow::~BreakWindow()
 void BreakWindow::useSoftwareRendering()
 {
     // Asking again once a scene graph exists only draws a warning from Qt.
-    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") &&
-        QQuickWindow::graphicsApi() != QSGRendererInterface::Software)
+    static bool chosen = false;
+    if (!chosen && qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    chosen = true;
 }
 
 QQmlEngine& BreakWindow::engine()
