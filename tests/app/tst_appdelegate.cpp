@@ -14,6 +14,7 @@
 #include "notification/PreBreakNotificationDisplayModel.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
+#include "tray/MenuSymbols.h"
 #include "tray/StatusItem.h"
 
 #include <QAction>
@@ -300,6 +301,39 @@ private Q_SLOTS:
         turnEventLoop();
         QCOMPARE(shell.presenter->cards.size(), 4);
         QCOMPARE(shell.delegate->inAppNotificationManager()->currentTimeRemaining(), 45.0);
+    }
+
+    void everySymbolTheMenuNamesIsDrawn()
+    {
+        // The menu's own names and every one the detector may report.
+        const QStringList names{u"timer"_s,
+                                u"cup.and.saucer"_s,
+                                u"cup.and.saucer.fill"_s,
+                                u"pause.circle"_s,
+                                u"pause.circle.fill"_s,
+                                u"pause.fill"_s,
+                                u"play.fill"_s,
+                                u"stop.fill"_s,
+                                u"power"_s,
+                                u"gearshape"_s,
+                                u"checkmark.circle"_s,
+                                u"clock.badge.xmark"_s,
+                                u"person.wave.2"_s,
+                                u"video.fill"_s,
+                                u"camera.fill"_s,
+                                u"mic.fill"_s,
+                                u"play.rectangle"_s,
+                                u"record.circle"_s,
+                                u"gamecontroller"_s,
+                                u"scope"_s,
+                                u"moon"_s,
+                                u"hourglass"_s};
+        for (const QString& name : names) {
+            QVERIFY2(MenuSymbols::isKnown(name), qPrintable(name));
+            QVERIFY(!MenuSymbols::icon(name, Qt::black).pixmap(16).isNull());
+        }
+        QVERIFY(!MenuSymbols::isKnown(u"no.such.symbol"_s));
+        QVERIFY(!MenuSymbols::icon(u"no.such.symbol"_s, Qt::black).pixmap(16).isNull());
     }
 
     void smartPauseChangesReachTheDetectorWithoutResettingTheCountdown()
