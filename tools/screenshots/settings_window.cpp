@@ -16,6 +16,7 @@
 #include <QQuickWindow>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -50,16 +51,22 @@ public:
     }
 };
 
+// Icons by path, so the pictures do not depend on the icon theme of the machine that renders them.
+QString icon(QStringView name)
+{
+    return u"/usr/share/icons/Adwaita/48x48/legacy/"_s + name + u".png"_s;
+}
+
 class Applications final : public ApplicationInfoProviding {
 public:
     [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const QString& identifier) const override
     {
         static const QHash<QString, ApplicationInfo> known = {
-            {u"org.mozilla.firefox"_s, {u"Firefox"_s, u"firefox"_s, true}},
-            {u"org.gnome.Nautilus"_s, {u"Files"_s, u"org.gnome.Nautilus"_s, true}},
-            {u"code"_s, {u"Visual Studio Code"_s, u"code"_s, true}},
-            {u"org.gnome.Calculator"_s, {u"Calculator"_s, u"org.gnome.Calculator"_s, true}},
-            {u"org.gnome.TextEditor"_s, {u"Text Editor"_s, u"org.gnome.TextEditor"_s, true}},
+            {u"org.mozilla.firefox"_s, {u"Firefox"_s, icon(u"web-browser"), true}},
+            {u"org.gnome.Nautilus"_s, {u"Files"_s, icon(u"system-file-manager"), true}},
+            {u"code"_s, {u"Visual Studio Code"_s, icon(u"applications-development"), true}},
+            {u"org.gnome.Calculator"_s, {u"Calculator"_s, icon(u"accessories-calculator"), true}},
+            {u"org.gnome.TextEditor"_s, {u"Text Editor"_s, icon(u"accessories-text-editor"), true}},
         };
         const auto found = known.constFind(identifier);
         if (found == known.cend())
@@ -150,6 +157,12 @@ int main(int argc, char** argv)
         }
         for (int tab = 0; tab < tabs.size(); ++tab) {
             window->setProperty("selectedTab", tab);
+            QTest::qWait(100);
+            // Tall enough for the whole pane, so the picture shows every section.
+            const auto* pane = window->property("detailPane").value<QObject*>();
+            const int paneHeight = pane ? pane->property("implicitHeight").toInt() : 0;
+            window->setMaximumHeight(4000);
+            window->resize(window->width(), std::max(580, paneHeight + 90));
             QTest::qWait(150);
             const QString path = outputDir + u"/settings-"_s + tabs.at(tab) + (dark ? u"-dark.png"_s : u"-light.png"_s);
             if (!window->grabWindow().save(path)) {

@@ -45,7 +45,7 @@ ColumnLayout {
                 anchors.centerIn: parent
                 visible: !icon.visible
                 name: "app.fill"
-                size: 56
+                size: 92
                 color: Theme.accent
             }
         }

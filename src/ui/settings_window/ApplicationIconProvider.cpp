@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPainter>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -36,8 +37,17 @@ QImage ApplicationIconProvider::requestImage(const QString& id, QSize* size, con
         icon = QIcon::fromTheme(u"application-x-executable"_s);
     QImage image = icon.pixmap(wanted).toImage();
     if (image.isNull()) {
+        // Without an icon theme there is no generic icon either; a plain tile keeps the rows even.
         image = QImage(wanted, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x8e, 0x8e, 0x93));
+        const QRectF tile =
+            QRectF(image.rect())
+                .adjusted(wanted.width() * 0.1, wanted.height() * 0.1, -wanted.width() * 0.1, -wanted.height() * 0.1);
+        painter.drawRoundedRect(tile, tile.width() * 0.22, tile.height() * 0.22);
     }
     if (size)
         *size = image.size();

@@ -21,6 +21,7 @@ RowLayout {
         Layout.fillWidth: true
         text: row.text
         wrapMode: Text.WordWrap
+        verticalAlignment: Text.AlignVCenter
     }
     ComboBox {
         id: box

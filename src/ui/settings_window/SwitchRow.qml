@@ -15,8 +15,10 @@ RowLayout {
 
     Label {
         Layout.fillWidth: true
+        Layout.alignment: Qt.AlignVCenter
         text: row.text
         wrapMode: Text.WordWrap
+        verticalAlignment: Text.AlignVCenter
     }
     Switch {
         id: toggle
