@@ -110,14 +110,22 @@ Popup {
                 clip: true
                 model: sheet.focusAppModel.filteredApps
                 activeFocusOnTab: true
-                keyNavigationEnabled: true
-                currentIndex: -1
+                keyNavigationEnabled: false
                 Accessible.role: Accessible.List
                 Accessible.name: "Running apps"
-                onCurrentIndexChanged: {
-                    if (currentIndex >= 0 && currentIndex < count)
-                        sheet.focusAppModel.selectedBundleId = model[currentIndex].bundleIdentifier;
+                // The selection is the model's, by identity: nothing is chosen until the user chooses.
+                function moveSelection(step) {
+                    const apps = sheet.focusAppModel.filteredApps;
+                    if (apps.length === 0)
+                        return;
+                    let index = apps.findIndex(app => app.bundleIdentifier === sheet.focusAppModel.selectedBundleId);
+                    index = index < 0 ? (step > 0 ? 0 : apps.length - 1)
+                                      : Math.max(0, Math.min(apps.length - 1, index + step));
+                    sheet.focusAppModel.selectedBundleId = apps[index].bundleIdentifier;
+                    positionViewAtIndex(index, ListView.Contain);
                 }
+                Keys.onUpPressed: moveSelection(-1)
+                Keys.onDownPressed: moveSelection(1)
                 Keys.onReturnPressed: sheet.addSelection()
                 Keys.onEnterPressed: sheet.addSelection()
                 ScrollBar.vertical: ScrollBar {}
