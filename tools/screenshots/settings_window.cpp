@@ -169,6 +169,23 @@ int main(int argc, char** argv)
                 std::fprintf(stderr, "could not write %s\n", qPrintable(path));
                 ++failures;
             }
+            // The add-focus-app sheet over the Smart Pause pane, at the window's usual size.
+            QObject* sheet = pane ? pane->findChild<QObject*>(u"addFocusAppSheet"_s) : nullptr;
+            if (sheet) {
+                window->resize(740, 580);
+                window->setMaximumHeight(580);
+                QMetaObject::invokeMethod(sheet, "open");
+                QTest::qWait(300);
+                if (auto* model = window->property("focusAppModel").value<QObject*>())
+                    model->setProperty("selectedBundleId", u"org.mozilla.firefox"_s);
+                QTest::qWait(150);
+                const QString sheetPath =
+                    outputDir + u"/settings-add-focus-app"_s + (dark ? u"-dark.png"_s : u"-light.png"_s);
+                if (!window->grabWindow().save(sheetPath))
+                    ++failures;
+                QMetaObject::invokeMethod(sheet, "close");
+                QTest::qWait(300);
+            }
         }
         window->close();
     }

@@ -77,6 +77,8 @@ ColumnLayout {
             onClicked: Qt.openUrlExternally(pane.paneModel.websiteUrl)
             background: null
             padding: 0
+            topPadding: 3
+            bottomPadding: 3
             contentItem: RowLayout {
                 Label { text: "Website" }
                 Item { Layout.fillWidth: true }
@@ -91,6 +93,8 @@ ColumnLayout {
             onClicked: Qt.openUrlExternally(pane.paneModel.feedbackUrl)
             background: null
             padding: 0
+            topPadding: 3
+            bottomPadding: 3
             contentItem: RowLayout {
                 Label { text: "Send Feedback" }
                 Item { Layout.fillWidth: true }

@@ -24,6 +24,10 @@ Popup {
             sheet.close();
     }
 
+    Overlay.modal: Rectangle {
+        color: Qt.rgba(0, 0, 0, Theme.dark ? 0.45 : 0.22)
+    }
+
     background: Rectangle {
         radius: 10
         color: Theme.window

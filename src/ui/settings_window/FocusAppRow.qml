@@ -35,7 +35,7 @@ RowLayout {
     ComboBox {
         id: mode
         objectName: "focusAppMode"
-        Layout.preferredWidth: 160
+        Layout.preferredWidth: 190
         model: row.paneModel.optionLabels(SettingsPaneModel.FocusAppRowMode)
         currentIndex: row.app.mode !== undefined ? row.app.mode : -1
         Accessible.name: "Pause breaks for " + (row.app.name || "")

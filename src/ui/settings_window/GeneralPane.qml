@@ -79,7 +79,7 @@ ColumnLayout {
         RowLayout {
             visible: pane.schedule.isEnabled === true
             Layout.fillWidth: true
-            spacing: 24
+            spacing: 16
             TimeField {
                 objectName: "startTime"
                 text: "Start"

@@ -11,7 +11,7 @@ RowLayout {
     property int minute
     signal edited(int hour, int minute)
 
-    spacing: 6
+    spacing: 4
 
     Label { text: field.text }
     SpinBox {
@@ -21,7 +21,7 @@ RowLayout {
         to: 23
         editable: true
         value: field.hour
-        Layout.preferredWidth: 76
+        Layout.preferredWidth: 66
         textFromValue: (value, locale) => String(value).padStart(2, "0")
         Accessible.name: field.text + " hour"
         onValueModified: {
@@ -37,7 +37,7 @@ RowLayout {
         to: 59
         editable: true
         value: field.minute
-        Layout.preferredWidth: 76
+        Layout.preferredWidth: 66
         textFromValue: (value, locale) => String(value).padStart(2, "0")
         Accessible.name: field.text + " minute"
         onValueModified: {
