@@ -14,6 +14,7 @@
 #include <QQmlEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QScreen>
 #include <QTimer>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -30,8 +31,8 @@ SettingsWindowController::SettingsWindowController(Collaborators collaborators, 
 
 SettingsWindowController::~SettingsWindowController()
 {
-    // The window's items go before the engine that made them.
-    delete m_settingsWindow.data();
+    // Windows (also a closed one not yet deleted) go before the engine that made their items.
+    qDeleteAll(findChildren<QQuickWindow*>(Qt::FindDirectChildrenOnly));
 }
 
 QString SettingsWindowController::buildNumber()
@@ -69,6 +70,13 @@ void SettingsWindowController::showSettings(SettingsManager* settingsManager, Br
     if (m_settingsWindow)
         m_settingsWindow->deleteLater();
     m_settingsWindow = window;
+    // Owned by the controller, yet a top-level window: no QWindow parent.
+    static_cast<QObject*>(window)->setParent(this);
+    if (QScreen* screen = window->screen()) {
+        QRect frame(QPoint(), window->size());
+        frame.moveCenter(screen->availableGeometry().center());
+        window->setPosition(frame.topLeft());
+    }
     window->show();
     bringForward(window);
 }

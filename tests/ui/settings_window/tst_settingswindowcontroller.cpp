@@ -405,6 +405,46 @@ private Q_SLOTS:
         QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
     }
 
+    void sheetKeysEscapeCancelsAndReturnAdds()
+    {
+        Fixture f;
+        f.workspace.applications.set({AppSnapshot{u"org.gnome.TextEditor"_s, true, 7}});
+        QQuickWindow* window = f.open();
+        window->requestActivate();
+        QObject* pane = f.pane(2);
+        QObject* sheet = pane->findChild<QObject*>(u"addFocusAppSheet"_s);
+        auto* model = window->property("focusAppModel").value<AddFocusAppModel*>();
+
+        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        QTRY_COMPARE(model->filteredApps().size(), 1);
+        // Return without a selection adds nothing and keeps the sheet.
+        QTest::keyClick(window, Qt::Key_Return);
+        QVERIFY(sheet->property("visible").toBool());
+        // Down selects the first application, Escape leaves without adding it.
+        QTest::keyClick(window, Qt::Key_Tab);
+        QTest::keyClick(window, Qt::Key_Down);
+        QCOMPARE(model->selectedBundleId(), u"org.gnome.TextEditor"_s);
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
+
+        // A new showing starts without a selection; typing filters, Down selects, Return adds.
+        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        QVERIFY(!model->canAdd());
+        QTRY_COMPARE(model->filteredApps().size(), 1);
+        for (const char key : {'T', 'E', 'X', 'T'})
+            QTest::keyClick(window, key);
+        QCOMPARE(model->searchText(), u"TEXT"_s);
+        QCOMPARE(model->filteredApps().size(), 1);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QTest::keyClick(window, Qt::Key_Down);
+        QTest::keyClick(window, Qt::Key_Return);
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
+    }
+
     void aboutPaneChecksQuietlyEachTimeItIsShown()
     {
         Fixture f;
