@@ -34,7 +34,7 @@ ColumnLayout {
                 id: icon
                 objectName: "appIcon"
                 anchors.fill: parent
-                visible: pane.paneModel.appIconSource.toString() !== ""
+                visible: String(pane.paneModel.appIconSource) !== ""
                 source: pane.paneModel.appIconSource
                 sourceSize: Qt.size(192, 192)
                 fillMode: Image.PreserveAspectFit

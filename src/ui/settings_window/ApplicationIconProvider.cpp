@@ -12,6 +12,32 @@ using namespace Qt::StringLiterals;
 
 namespace velto {
 
+namespace {
+
+// The icon theme first; sessions without one still have the shared directories desktop files point into.
+QIcon themedIcon(const QString& name)
+{
+    QIcon icon = QIcon::fromTheme(name);
+    if (!icon.isNull())
+        return icon;
+    const QStringList candidates = {
+        u"/usr/share/icons/hicolor/scalable/apps/"_s + name + u".svg"_s,
+        u"/usr/share/icons/hicolor/256x256/apps/"_s + name + u".png"_s,
+        u"/usr/share/icons/hicolor/128x128/apps/"_s + name + u".png"_s,
+        u"/usr/share/icons/hicolor/48x48/apps/"_s + name + u".png"_s,
+        u"/usr/share/pixmaps/"_s + name + u".svg"_s,
+        u"/usr/share/pixmaps/"_s + name + u".png"_s,
+        u"/usr/share/pixmaps/"_s + name + u".xpm"_s,
+    };
+    for (const QString& path : candidates) {
+        if (QFileInfo::exists(path))
+            return QIcon(path);
+    }
+    return {};
+}
+
+} // namespace
+
 ApplicationIconProvider::ApplicationIconProvider(const ApplicationInfoProviding* applications)
     : QQuickImageProvider(QQuickImageProvider::Image)
     , m_applications(applications)
@@ -30,7 +56,7 @@ QImage ApplicationIconProvider::requestImage(const QString& id, QSize* size, con
             if (QFileInfo(name).isAbsolute())
                 icon = QIcon(name);
             else if (!name.isEmpty())
-                icon = QIcon::fromTheme(name);
+                icon = themedIcon(name);
         }
     }
     if (icon.isNull() || icon.pixmap(wanted).isNull())
