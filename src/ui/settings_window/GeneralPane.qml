@@ -60,13 +60,15 @@ ColumnLayout {
                 model: [{ day: 1, title: "Sun" }, { day: 2, title: "Mon" }, { day: 3, title: "Tue" },
                         { day: 4, title: "Wed" }, { day: 5, title: "Thu" }, { day: 6, title: "Fri" },
                         { day: 7, title: "Sat" }]
-                delegate: Button {
+                delegate: TintedButton {
                     required property var modelData
                     text: modelData.title
                     checkable: true
                     checked: (pane.schedule.activeDays || []).includes(modelData.day)
                     highlighted: checked
                     implicitWidth: 40
+                    leftPadding: 2
+                    rightPadding: 2
                     font.pixelSize: 11
                     Accessible.name: modelData.title
                     onToggled: {

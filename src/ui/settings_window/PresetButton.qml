@@ -3,7 +3,7 @@ import QtQuick.Controls
 import Velto.Settings
 
 // Applies a break preset; tinted while the store's selection is this preset.
-Button {
+TintedButton {
     id: button
 
     required property SettingsPaneModel paneModel
