@@ -165,7 +165,7 @@ ColumnLayout {
                 onClicked: pane.paneModel.checkForUpdates()
             }
         }
-        Button {
+        TintedButton {
             objectName: "checkForUpdates"
             text: "Check for Updates…"
             Accessible.name: text

@@ -52,7 +52,7 @@ Popup {
                 font.pixelSize: 15
                 Accessible.role: Accessible.Heading
             }
-            Button {
+            TintedButton {
                 objectName: "cancel"
                 text: "Cancel"
                 Accessible.name: text
@@ -219,7 +219,7 @@ Popup {
             RowLayout {
                 Layout.fillWidth: true
                 Item { Layout.fillWidth: true }
-                Button {
+                TintedButton {
                     objectName: "addSelected"
                     text: "Add App"
                     highlighted: true

@@ -10,6 +10,7 @@ Button {
     rightPadding: 10
     topPadding: 5
     bottomPadding: 5
+    opacity: enabled ? 1 : 0.45
 
     contentItem: Label {
         text: button.text
