@@ -1,0 +1,61 @@
+#pragma once
+
+#include "scheduling/BreakManager.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickWindow>
+
+#include <memory>
+
+class QQmlEngine;
+
+namespace velto {
+
+class ApplicationInfoProviding;
+
+class ScreenLocking;
+class SettingsManager;
+class UpdateAvailabilityModel;
+class WorkspaceProviding;
+
+// The settings window: built on demand, brought forward while it is open, and built afresh (on General)
+// after it was closed. The QML engine is made the first time the window is asked for. Main thread.
+class SettingsWindowController final : public QObject {
+    Q_OBJECT
+
+public:
+    // None is owned; each must outlive the controller or be null (no lock, no running applications, no
+    // names and icons, no update notice).
+    struct Collaborators {
+        ScreenLocking* lock = nullptr;
+        WorkspaceProviding* workspace = nullptr;
+        ApplicationInfoProviding* applications = nullptr;
+        UpdateAvailabilityModel* updates = nullptr;
+    };
+
+    explicit SettingsWindowController(Collaborators collaborators, QObject* parent = nullptr);
+    ~SettingsWindowController() override;
+
+    // Brings the open window forward, or builds a new one for these settings.
+    void showSettings(SettingsManager* settingsManager, BreakManager* breakManager);
+
+    // The last window built, open or hidden; null before the first showSettings().
+    [[nodiscard]] QQuickWindow* settingsWindow() const { return m_settingsWindow; }
+    [[nodiscard]] QQmlEngine* engineIfCreated() const { return m_engine.get(); }
+
+    // The version the About pane shows next to the application's own version; empty for none.
+    static QString buildNumber();
+
+private:
+    QQmlEngine& engine();
+    QQuickWindow* buildWindow(SettingsManager* settingsManager);
+    static void bringForward(QQuickWindow* window);
+
+    Collaborators m_collaborators;
+    QPointer<BreakManager> m_breakManager;
+    std::unique_ptr<QQmlEngine> m_engine;
+    QPointer<QQuickWindow> m_settingsWindow;
+};
+
+} // namespace velto

@@ -1,0 +1,145 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Velto.Settings
+
+ColumnLayout {
+    id: pane
+
+    required property SettingsPaneModel paneModel
+    required property AddFocusAppModel focusAppModel
+    readonly property var smartPause: paneModel.smartPauseSettings
+    readonly property var focusApps: smartPause.deepFocusApps || []
+    readonly property alias addFocusAppSheet: sheet
+
+    spacing: 18
+
+    PaneHeader {
+        symbol: "pause.circle"
+        title: "Smart Pause"
+        subtitle: "Let Velto adapt to what you're doing and pause breaks when it matters."
+    }
+
+    FormSection {
+        title: "Activity Detection"
+        SwitchRow {
+            objectName: "detectMeetings"
+            text: "Pause during meetings or calls"
+            value: pane.smartPause.detectMeetings === true
+            onEdited: on => pane.paneModel.setSmartPauseField("detectMeetings", on)
+        }
+        Footnote {
+            text: "Pauses when you are likely on a call or in a meeting—not while you are only browsing the web."
+        }
+        SwitchRow {
+            objectName: "detectVideoPlayback"
+            text: "Pause during video playback"
+            value: pane.smartPause.detectVideoPlayback === true
+            onEdited: on => pane.paneModel.setSmartPauseField("detectVideoPlayback", on)
+        }
+        PickerRow {
+            objectName: "videoDetectionMode"
+            visible: pane.smartPause.detectVideoPlayback === true
+            paneModel: pane.paneModel
+            text: "Video detection mode"
+            picker: SettingsPaneModel.VideoDetectionMode
+            pickerWidth: 210
+        }
+        Footnote {
+            visible: pane.smartPause.detectVideoPlayback === true
+            text: "Frontmost only checks the active app. Include background also pauses when a supported player is playing behind another window."
+        }
+        SwitchRow {
+            objectName: "detectScreenRecording"
+            text: "Pause during screen recording"
+            value: pane.smartPause.detectScreenRecording === true
+            onEdited: on => pane.paneModel.setSmartPauseField("detectScreenRecording", on)
+        }
+        SwitchRow {
+            objectName: "detectFullscreenGaming"
+            text: "Pause during fullscreen gaming"
+            value: pane.smartPause.detectFullscreenGaming === true
+            onEdited: on => pane.paneModel.setSmartPauseField("detectFullscreenGaming", on)
+        }
+    }
+
+    FormSection {
+        title: "Idle Detection"
+        SwitchRow {
+            objectName: "detectIdleTime"
+            text: "Detect idle time"
+            value: pane.smartPause.detectIdleTime === true
+            onEdited: on => pane.paneModel.setSmartPauseField("detectIdleTime", on)
+        }
+        PickerRow {
+            objectName: "idleThreshold"
+            visible: pane.smartPause.detectIdleTime === true
+            paneModel: pane.paneModel
+            text: "Reset timer after idle for"
+            picker: SettingsPaneModel.IdleThreshold
+        }
+    }
+
+    FormSection {
+        title: "Cooldown"
+        PickerRow {
+            objectName: "cooldown"
+            paneModel: pane.paneModel
+            text: "Delay after activity ends"
+            picker: SettingsPaneModel.Cooldown
+        }
+        Footnote {
+            text: "Waits this long after a Smart Pause reason clears before your work timer starts counting down again."
+        }
+    }
+
+    FormSection {
+        title: "Focus Apps"
+        Label {
+            Layout.fillWidth: true
+            wrapMode: Text.WordWrap
+            color: Theme.secondaryText
+            font.pixelSize: Theme.captionSize
+            text: "Pause breaks when a specific app is active or open. Each app can use foreground only, foreground while fullscreen, or whenever it is running."
+        }
+        Label {
+            objectName: "noFocusApps"
+            visible: pane.focusApps.length === 0
+            Layout.fillWidth: true
+            Layout.topMargin: 4
+            Layout.bottomMargin: 4
+            horizontalAlignment: Text.AlignHCenter
+            color: Theme.secondaryText
+            font.pixelSize: Theme.captionSize
+            text: "No focus apps configured"
+        }
+        Repeater {
+            objectName: "focusAppRows"
+            // A count, not the list: editing one entry must not rebuild every row.
+            model: pane.focusApps.length
+            delegate: FocusAppRow {
+                required property int index
+                paneModel: pane.paneModel
+                app: pane.focusApps[index] || ({})
+                onModeChosen: mode => pane.paneModel.setFocusAppMode(index, mode)
+                onDeleted: pane.paneModel.deleteFocusApp(app.bundleIdentifier)
+            }
+        }
+        Button {
+            objectName: "addApp"
+            Accessible.name: "Add App…"
+            onClicked: sheet.open()
+            contentItem: RowLayout {
+                spacing: 6
+                SymbolIcon { name: "plus.circle"; size: 16; color: Theme.accent }
+                Label { text: "Add App…" }
+            }
+        }
+    }
+
+    AddFocusAppSheet {
+        id: sheet
+        objectName: "addFocusAppSheet"
+        focusAppModel: pane.focusAppModel
+    }
+}

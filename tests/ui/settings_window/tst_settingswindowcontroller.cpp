@@ -1,0 +1,464 @@
+#include "AddFocusAppModel.h"
+#include "ApplicationInfoProviding.h"
+#include "FakeDetectionProviders.h"
+#include "FakeScreenLock.h"
+#include "InMemoryUserDefaults.h"
+#include "SettingsPaneModel.h"
+#include "SettingsWindowController.h"
+#include "UpdateAvailabilityModel.h"
+#include "settings/SettingsManager.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSet>
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using namespace velto;
+
+namespace {
+
+class FakeApplications final : public ApplicationInfoProviding {
+public:
+    [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const QString& identifier) const override
+    {
+        if (identifier == u"org.gnome.TextEditor"_s)
+            return ApplicationInfo{u"Text Editor"_s, QString(), true};
+        return std::nullopt;
+    }
+};
+
+// Objects with this name under root, in the object tree and the visual tree (views and repeaters make their
+// delegates children of items only), each once, in tree order.
+QList<QObject*> named(QObject* root, const QString& name)
+{
+    QList<QObject*> found;
+    QSet<QObject*> seen;
+    std::function<void(QObject*)> walk = [&](QObject* object) {
+        if (!object || seen.contains(object))
+            return;
+        seen.insert(object);
+        if (object->objectName() == name)
+            found.append(object);
+        if (auto* item = qobject_cast<QQuickItem*>(object)) {
+            for (QQuickItem* child : item->childItems())
+                walk(child);
+        }
+        for (QObject* child : object->children())
+            walk(child);
+    };
+    walk(root);
+    return found;
+}
+
+// Emits a control's signal the way a user's action does, so the pane's own handler runs.
+void emitSignal(QObject* object, const char* signal)
+{
+    QVERIFY2(object, signal);
+    QVERIFY(QMetaObject::invokeMethod(object, signal));
+}
+
+void activate(QObject* comboBox, int index)
+{
+    QVERIFY(comboBox);
+    comboBox->setProperty("currentIndex", index);
+    QVERIFY(QMetaObject::invokeMethod(comboBox, "activated", Q_ARG(int, index)));
+}
+
+void toggle(QObject* switchRow, bool on)
+{
+    QVERIFY(switchRow);
+    QObject* control = switchRow->findChild<QObject*>(u"switch"_s);
+    QVERIFY(control);
+    control->setProperty("checked", on);
+    QVERIFY(QMetaObject::invokeMethod(control, "toggled"));
+}
+
+} // namespace
+
+class SettingsWindowControllerTest final : public QObject {
+    Q_OBJECT
+
+private:
+    struct Fixture {
+        InMemoryUserDefaults store;
+        SettingsManager settings{store, nullptr};
+        FakeScreenLock lock;
+        FakeWorkspace workspace;
+        FakeApplications applications;
+        UpdateAvailabilityModel updates;
+        SettingsWindowController controller{{&lock, &workspace, &applications, &updates}};
+
+        QQuickWindow* open()
+        {
+            controller.showSettings(&settings, nullptr);
+            QQuickWindow* window = controller.settingsWindow();
+            // Let the one rebuild after the first showing happen.
+            QCoreApplication::processEvents();
+            return window;
+        }
+        QObject* pane(int tab)
+        {
+            QQuickWindow* window = controller.settingsWindow();
+            window->setProperty("selectedTab", tab);
+            QCoreApplication::processEvents();
+            return window->property("detailPane").value<QObject*>();
+        }
+        SettingsPaneModel* paneModel()
+        {
+            return controller.settingsWindow()->property("paneModel").value<SettingsPaneModel*>();
+        }
+    };
+
+    static QObject* picker(QObject* pane, const QString& row)
+    {
+        QObject* found = pane ? pane->findChild<QObject*>(row) : nullptr;
+        return found ? found->findChild<QObject*>(u"picker"_s) : nullptr;
+    }
+    static bool isShown(QObject* item) { return item && item->property("visible").toBool(); }
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("QT_QUICK_CONTROLS_STYLE", "Basic"); }
+
+    void opensOnceBringsForwardAndBuildsAFreshWindowAfterClosing()
+    {
+        Fixture f;
+        QVERIFY(!f.controller.engineIfCreated());
+        QQuickWindow* first = f.open();
+        QVERIFY(first);
+        QVERIFY(f.controller.engineIfCreated());
+        QVERIFY(first->isVisible());
+        QCOMPARE(first->title(), u"Velto Settings"_s);
+        QCOMPARE(first->size(), QSize(740, 580));
+        QCOMPARE(first->minimumSize(), QSize(740, 480));
+        QCOMPARE(first->property("detailLayoutRemountPass").toInt(), 1);
+
+        first->setProperty("selectedTab", 3);
+        f.controller.showSettings(&f.settings, nullptr);
+        QCOMPARE(f.controller.settingsWindow(), first);
+        QCOMPARE(first->property("selectedTab").toInt(), 3);
+
+        first->close();
+        QVERIFY(!first->isVisible());
+        QQuickWindow* second = f.open();
+        QVERIFY(second != first);
+        QCOMPARE(second->property("selectedTab").toInt(), 0);
+        QVERIFY(second->isVisible());
+    }
+
+    void updateDotFollowsTheUpdateModelWhileOpen()
+    {
+        Fixture f;
+        QQuickWindow* window = f.open();
+        auto dotShown = [window] {
+            const QList<QObject*> dots = named(window, u"updateDot"_s);
+            return std::any_of(dots.cbegin(), dots.cend(), [](QObject* dot) { return isShown(dot); });
+        };
+        QVERIFY(!dotShown());
+        AppcastItem item;
+        item.shortVersionString = u"3.0"_s;
+        f.updates.didFindValidUpdate(item);
+        QVERIFY(dotShown());
+        QObject* about = f.pane(5);
+        QVERIFY(isShown(about->findChild<QObject*>(u"updateNudge"_s)));
+        QCOMPARE(about->findChild<QObject*>(u"updateNudgeText"_s)->property("text").toString(),
+                 u"Version 3.0 is ready when you are."_s);
+        f.updates.userDidMakeChoice(UpdateChoice::Skip, item);
+        QVERIFY(!dotShown());
+        QVERIFY(!isShown(about->findChild<QObject*>(u"updateNudge"_s)));
+    }
+
+    void sidebarButtonHidesAndShowsTheCategories()
+    {
+        Fixture f;
+        QQuickWindow* window = f.open();
+        QObject* sidebar = window->findChild<QObject*>(u"sidebar"_s);
+        QVERIFY(isShown(sidebar));
+        emitSignal(window->findChild<QObject*>(u"sidebarToggle"_s), "clicked");
+        QVERIFY(!isShown(sidebar));
+        emitSignal(window->findChild<QObject*>(u"sidebarToggle"_s), "clicked");
+        QVERIFY(isShown(sidebar));
+    }
+
+    void pickersShowNoSelectionForStoredValuesThatAreNoOption()
+    {
+        Fixture f;
+        BreakConfiguration breaks = f.settings.breakConfiguration();
+        breaks.workInterval = 90;
+        f.settings.setBreakConfiguration(breaks);
+        SmartPauseSettings smartPause = f.settings.smartPauseSettings();
+        smartPause.idleThreshold = 180;
+        f.settings.setSmartPauseSettings(smartPause);
+        NotificationSettings notifications = f.settings.notificationSettings();
+        notifications.preBreakNotificationTime = 240;
+        f.settings.setNotificationSettings(notifications);
+        f.open();
+
+        QObject* workInterval = picker(f.pane(1), u"workInterval"_s);
+        QCOMPARE(workInterval->property("currentIndex").toInt(), -1);
+        QCOMPARE(workInterval->property("displayText").toString(), QString());
+        QCOMPARE(picker(f.pane(1), u"shortBreakDuration"_s)->property("displayText").toString(), u"20 sec"_s);
+        QCOMPARE(picker(f.pane(2), u"idleThreshold"_s)->property("currentIndex").toInt(), -1);
+        QObject* lead = picker(f.pane(3), u"preBreakNotificationTime"_s);
+        QCOMPARE(lead->property("currentIndex").toInt(), -1);
+        QCOMPARE(f.settings.notificationSettings().preBreakNotificationTime, 240.0);
+
+        activate(lead, 3);
+        QCOMPARE(f.settings.notificationSettings().preBreakNotificationTime, 300.0);
+        QCOMPARE(lead->property("displayText").toString(), u"5 min before"_s);
+        // The picker keeps following the store after the user's choice.
+        notifications = f.settings.notificationSettings();
+        notifications.preBreakNotificationTime = 120;
+        f.settings.setNotificationSettings(notifications);
+        QCOMPARE(lead->property("currentIndex").toInt(), 1);
+
+        // Switching the notice off hides the row and keeps the lead time.
+        toggle(f.pane(3)->findChild<QObject*>(u"showPreBreakNotification"_s), false);
+        QVERIFY(!isShown(f.pane(3)->findChild<QObject*>(u"preBreakNotificationTime"_s)));
+        QCOMPARE(f.settings.notificationSettings().preBreakNotificationTime, 120.0);
+    }
+
+    void presetButtonsFollowTheSelection()
+    {
+        Fixture f;
+        f.open();
+        QObject* pane = f.pane(1);
+        const QStringList buttons = {u"presetBalanced"_s, u"presetDeepFocus"_s, u"presetEyeCare"_s, u"presetCustom"_s};
+        auto highlighted = [&] {
+            QStringList on;
+            for (const QString& name : buttons) {
+                if (pane->findChild<QObject*>(name)->property("highlighted").toBool())
+                    on.append(name);
+            }
+            return on;
+        };
+        QCOMPARE(highlighted(), QStringList{u"presetBalanced"_s});
+
+        emitSignal(pane->findChild<QObject*>(u"presetDeepFocus"_s), "clicked");
+        QCOMPARE(highlighted(), QStringList{u"presetDeepFocus"_s});
+        QCOMPARE(picker(pane, u"workInterval"_s)->property("displayText").toString(), u"45 min"_s);
+        QVERIFY(isShown(pane->findChild<QObject*>(u"longBreakFrequency"_s)));
+
+        activate(picker(pane, u"shortBreakDuration"_s), 0);
+        QCOMPARE(highlighted(), QStringList{u"presetCustom"_s});
+        QCOMPARE(f.settings.breakConfiguration().shortBreakDuration, 10.0);
+
+        const BreakConfiguration custom = f.settings.breakConfiguration();
+        emitSignal(pane->findChild<QObject*>(u"presetCustom"_s), "clicked");
+        QCOMPARE(f.settings.breakConfiguration(), custom);
+        QCOMPARE(highlighted(), QStringList{u"presetCustom"_s});
+
+        // Balanced has no long-break frequency: turning long breaks on shows Frequency with nothing chosen.
+        emitSignal(pane->findChild<QObject*>(u"presetBalanced"_s), "clicked");
+        QCOMPARE(highlighted(), QStringList{u"presetBalanced"_s});
+        QVERIFY(!isShown(pane->findChild<QObject*>(u"longBreakFrequency"_s)));
+        toggle(pane->findChild<QObject*>(u"longBreakEnabled"_s), true);
+        QVERIFY(isShown(pane->findChild<QObject*>(u"longBreakFrequency"_s)));
+        QCOMPARE(picker(pane, u"longBreakFrequency"_s)->property("currentIndex").toInt(), -1);
+        QCOMPARE(highlighted(), QStringList{u"presetCustom"_s});
+    }
+
+    void lockSwitchStaysOffAndExplainsWithoutALocker()
+    {
+        Fixture f;
+        f.lock.available = false;
+        f.open();
+        QObject* pane = f.pane(1);
+        QObject* row = pane->findChild<QObject*>(u"lockScreenOnBreak"_s);
+        toggle(row, true);
+        QCOMPARE(row->findChild<QObject*>(u"switch"_s)->property("checked").toBool(), false);
+        QCOMPARE(f.settings.breakConfiguration().lockScreenOnBreak, false);
+        QObject* alert = pane->findChild<QObject*>(u"lockScreenAlert"_s);
+        QVERIFY(alert);
+        QVERIFY(alert->property("visible").toBool());
+        QVERIFY(QMetaObject::invokeMethod(alert, "close"));
+        QTRY_VERIFY(!f.paneModel()->showLockScreenAlert());
+
+        f.lock.available = true;
+        toggle(row, true);
+        QCOMPARE(f.settings.breakConfiguration().lockScreenOnBreak, true);
+        QCOMPARE(row->findChild<QObject*>(u"switch"_s)->property("checked").toBool(), true);
+    }
+
+    void officeHoursRowsAppearWithTheSwitchAndKeepTheirDays()
+    {
+        Fixture f;
+        f.open();
+        QObject* pane = f.pane(0);
+        QObject* days = pane->findChild<QObject*>(u"activeDays"_s);
+        QVERIFY(!isShown(days));
+        toggle(pane->findChild<QObject*>(u"useOfficeHours"_s), true);
+        QVERIFY(isShown(days));
+        f.paneModel()->setDayActive(1, false);
+        toggle(pane->findChild<QObject*>(u"useOfficeHours"_s), false);
+        QVERIFY(!isShown(days));
+        QVERIFY(!f.settings.schedule().isActiveOn(Weekday::Sunday));
+        QCOMPARE(f.settings.schedule().activeDays.size(), std::size_t(6));
+    }
+
+    void resetFromTheGeneralPaneRestoresEverySetting()
+    {
+        Fixture f;
+        f.open();
+        toggle(f.pane(0)->findChild<QObject*>(u"showTimerInMenuBar"_s), false);
+        emitSignal(f.pane(1)->findChild<QObject*>(u"presetEyeCare"_s), "clicked");
+        toggle(f.pane(2)->findChild<QObject*>(u"detectMeetings"_s), false);
+        toggle(f.pane(3)->findChild<QObject*>(u"playSoundOnBreakStart"_s), false);
+        emitSignal(f.pane(4)->findChild<QObject*>(u"addMessage"_s), "clicked");
+        QVERIFY(f.settings.breakAppearance() != BreakAppearance());
+        QVERIFY(f.settings.smartPauseSettings() != SmartPauseSettings());
+
+        emitSignal(f.pane(0)->findChild<QObject*>(u"resetToDefaults"_s), "clicked");
+        QCOMPARE(f.settings.showTimerInMenuBar(), true);
+        QCOMPARE(f.settings.breakConfiguration(), BreakConfiguration());
+        QCOMPARE(f.settings.breakPresetSelection(), BreakPresetKind::Balanced);
+        QCOMPARE(f.settings.smartPauseSettings(), SmartPauseSettings());
+        QCOMPARE(f.settings.notificationSettings(), NotificationSettings());
+        QCOMPARE(f.settings.breakAppearance(), BreakAppearance());
+        QCOMPARE(f.pane(0)
+                     ->findChild<QObject*>(u"showTimerInMenuBar"_s)
+                     ->findChild<QObject*>(u"switch"_s)
+                     ->property("checked")
+                     .toBool(),
+                 true);
+    }
+
+    void messageEditorKeepsAtLeastOneMessage()
+    {
+        Fixture f;
+        BreakAppearance appearance = f.settings.breakAppearance();
+        appearance.customMessages = {u"Only one"_s};
+        f.settings.setBreakAppearance(appearance);
+        f.open();
+        QObject* pane = f.pane(4);
+        auto removeButtons = [pane] { return named(pane, u"removeMessage"_s); };
+        QCOMPARE(removeButtons().size(), 1);
+        QVERIFY(!removeButtons().first()->property("enabled").toBool());
+
+        emitSignal(pane->findChild<QObject*>(u"addMessage"_s), "clicked");
+        QCOMPARE(removeButtons().size(), 2);
+        QVERIFY(removeButtons().first()->property("enabled").toBool());
+
+        QList<QObject*> fields = named(pane, u"message"_s);
+        QCOMPARE(fields.size(), 2);
+        QObject* second = fields.at(1);
+        second->setProperty("text", u"Stretch"_s);
+        emitSignal(second, "textEdited");
+        QCOMPARE(f.settings.breakAppearance().customMessages, (QStringList{u"Only one"_s, u"Stretch"_s}));
+        // Typing does not rebuild the fields.
+        QCOMPARE(named(pane, u"message"_s).at(1), second);
+
+        emitSignal(removeButtons().first(), "clicked");
+        QCOMPARE(f.settings.breakAppearance().customMessages, QStringList{u"Stretch"_s});
+        QCOMPARE(removeButtons().size(), 1);
+        QVERIFY(!removeButtons().first()->property("enabled").toBool());
+    }
+
+    void appearancePickersShowAndHideTheTheme()
+    {
+        Fixture f;
+        f.open();
+        QObject* pane = f.pane(4);
+        QObject* theme = pane->findChild<QObject*>(u"gradientTheme"_s);
+        QVERIFY(!isShown(theme));
+        activate(picker(pane, u"backgroundType"_s), 2);
+        QCOMPARE(f.settings.breakAppearance().backgroundType, BackgroundType::Gradient);
+        QVERIFY(isShown(theme));
+        QCOMPARE(theme->findChild<QObject*>(u"picker"_s)->property("currentIndex").toInt(), 0);
+        activate(picker(pane, u"backgroundType"_s), 1);
+        QVERIFY(!isShown(theme));
+        QCOMPARE(pane->findChild<QObject*>(u"dimLevelText"_s)->property("text").toString(), u"90%"_s);
+        activate(picker(pane, u"screenDisplayMode"_s), 1);
+        QCOMPARE(pane->findChild<QObject*>(u"displayModeExplanation"_s)->property("text").toString(),
+                 u"Show break only on your primary display"_s);
+    }
+
+    void focusAppSheetAddsTheSelectedApplication()
+    {
+        Fixture f;
+        f.workspace.applications.set({AppSnapshot{u"org.gnome.TextEditor"_s, true, 7}});
+        f.open();
+        QObject* pane = f.pane(2);
+        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
+        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        QObject* sheet = pane->findChild<QObject*>(u"addFocusAppSheet"_s);
+        QVERIFY(sheet);
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        auto* model = f.controller.settingsWindow()->property("focusAppModel").value<AddFocusAppModel*>();
+        QTRY_COMPARE(model->filteredApps().size(), 1);
+        QObject* add = sheet->findChild<QObject*>(u"addSelected"_s);
+        QVERIFY(add);
+        QVERIFY(!add->property("enabled").toBool());
+        model->setSelectedBundleId(u"org.gnome.TextEditor"_s);
+        QVERIFY(add->property("enabled").toBool());
+        emitSignal(add, "clicked");
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QCOMPARE(f.settings.smartPauseSettings().deepFocusApps,
+                 (QList<DeepFocusApp>{{u"Text Editor"_s, u"org.gnome.TextEditor"_s, DeepFocusMode::WhenForeground}}));
+        QVERIFY(!isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
+        QCOMPARE(named(pane, u"removeFocusApp"_s).size(), 1);
+
+        emitSignal(named(pane, u"removeFocusApp"_s).value(0), "clicked");
+        QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
+        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
+    }
+
+    void sheetKeysEscapeCancelsAndReturnAdds()
+    {
+        Fixture f;
+        f.workspace.applications.set({AppSnapshot{u"org.gnome.TextEditor"_s, true, 7}});
+        QQuickWindow* window = f.open();
+        window->requestActivate();
+        QObject* pane = f.pane(2);
+        QObject* sheet = pane->findChild<QObject*>(u"addFocusAppSheet"_s);
+        auto* model = window->property("focusAppModel").value<AddFocusAppModel*>();
+
+        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        QTRY_COMPARE(model->filteredApps().size(), 1);
+        // Return without a selection adds nothing and keeps the sheet.
+        QTest::keyClick(window, Qt::Key_Return);
+        QVERIFY(sheet->property("visible").toBool());
+        // Down selects the first application, Escape leaves without adding it.
+        QTest::keyClick(window, Qt::Key_Tab);
+        QTest::keyClick(window, Qt::Key_Down);
+        QCOMPARE(model->selectedBundleId(), u"org.gnome.TextEditor"_s);
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
+
+        // A new showing starts without a selection; typing filters, Down selects, Return adds.
+        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        QVERIFY(!model->canAdd());
+        QTRY_COMPARE(model->filteredApps().size(), 1);
+        for (const char key : {'T', 'E', 'X', 'T'})
+            QTest::keyClick(window, key);
+        QCOMPARE(model->searchText(), u"TEXT"_s);
+        QCOMPARE(model->filteredApps().size(), 1);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QTest::keyClick(window, Qt::Key_Down);
+        QTest::keyClick(window, Qt::Key_Return);
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
+    }
+
+    void aboutPaneChecksQuietlyEachTimeItIsShown()
+    {
+        Fixture f;
+        f.open();
+        int silentChecks = 0;
+        f.paneModel()->onSilentCheck = [&silentChecks] { ++silentChecks; };
+        f.pane(5);
+        f.pane(0);
+        QObject* about = f.pane(5);
+        QCOMPARE(silentChecks, 2);
+        QVERIFY(!isShown(about->findChild<QObject*>(u"updateNudge"_s)));
+        QVERIFY(!about->findChild<QObject*>(u"versionText"_s)->property("text").toString().isEmpty());
+    }
+};
+
+QTEST_MAIN(SettingsWindowControllerTest)
+#include "tst_settingswindowcontroller.moc"

@@ -1,0 +1,193 @@
+// Renders the six settings panes off screen, light and dark, for the README.
+// Usage: velto_screenshots_settings OUTPUT_DIR
+#include "ApplicationInfoProviding.h"
+#include "SettingsWindowController.h"
+#include "UpdateAvailabilityModel.h"
+#include "detection/WorkspaceProviding.h"
+#include "scheduling/ScreenLocking.h"
+#include "settings/SettingsManager.h"
+#include "settings/UserDefaultsStore.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QHash>
+#include <QImage>
+#include <QPalette>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace velto;
+
+namespace {
+
+class MemoryStore final : public UserDefaultsStore {
+public:
+    [[nodiscard]] QVariant read(const QString& key) const override { return m_values.value(key); }
+    void write(const QString& key, const QVariant& value) override { m_values.insert(key, value); }
+    void remove(const QString& key) override { m_values.remove(key); }
+
+private:
+    QHash<QString, QVariant> m_values;
+};
+
+class Lock final : public ScreenLocking {
+public:
+    [[nodiscard]] bool isLockAvailable() const override { return true; }
+    void lockScreen() override {}
+};
+
+class Workspace final : public WorkspaceProviding {
+public:
+    [[nodiscard]] QList<AppSnapshot> runningApplications() const override
+    {
+        return {{u"org.mozilla.firefox"_s, true, 10},
+                {u"org.gnome.Nautilus"_s, false, 11},
+                {u"code"_s, false, 12},
+                {u"org.gnome.Calculator"_s, false, 13}};
+    }
+};
+
+// Icons by path, so the pictures do not depend on the icon theme of the machine that renders them.
+QString icon(QStringView name)
+{
+    return u"/usr/share/icons/Adwaita/48x48/legacy/"_s + name + u".png"_s;
+}
+
+class Applications final : public ApplicationInfoProviding {
+public:
+    [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const QString& identifier) const override
+    {
+        static const QHash<QString, ApplicationInfo> known = {
+            {u"org.mozilla.firefox"_s, {u"Firefox"_s, icon(u"web-browser"), true}},
+            {u"org.gnome.Nautilus"_s, {u"Files"_s, icon(u"system-file-manager"), true}},
+            {u"code"_s, {u"Visual Studio Code"_s, icon(u"applications-development"), true}},
+            {u"org.gnome.Calculator"_s, {u"Calculator"_s, icon(u"accessories-calculator"), true}},
+            {u"org.gnome.TextEditor"_s, {u"Text Editor"_s, icon(u"accessories-text-editor"), true}},
+        };
+        const auto found = known.constFind(identifier);
+        if (found == known.cend())
+            return std::nullopt;
+        return *found;
+    }
+};
+
+QPalette palette(bool dark)
+{
+    QPalette p;
+    const QColor window = dark ? QColor(0x26, 0x26, 0x28) : QColor(0xf0, 0xf0, 0xf2);
+    const QColor text = dark ? QColor(0xec, 0xec, 0xee) : QColor(0x1d, 0x1d, 0x1f);
+    const QColor base = dark ? QColor(0x1e, 0x1e, 0x20) : QColor(0xff, 0xff, 0xff);
+    const QColor button = dark ? QColor(0x3a, 0x3a, 0x3c) : QColor(0xfa, 0xfa, 0xfb);
+    const QColor accent = dark ? QColor(0x3d, 0x84, 0xf0) : QColor(0x1f, 0x6f, 0xe5);
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const bool disabled = group == QPalette::Disabled;
+        p.setColor(group, QPalette::Window, window);
+        p.setColor(group, QPalette::WindowText, disabled ? QColor(0x80, 0x80, 0x80) : text);
+        p.setColor(group, QPalette::Base, base);
+        p.setColor(group, QPalette::AlternateBase, window);
+        p.setColor(group, QPalette::Text, disabled ? QColor(0x80, 0x80, 0x80) : text);
+        p.setColor(group, QPalette::Button, button);
+        p.setColor(group, QPalette::ButtonText, disabled ? QColor(0x80, 0x80, 0x80) : text);
+        p.setColor(group, QPalette::Highlight, accent);
+        p.setColor(group, QPalette::HighlightedText, Qt::white);
+        p.setColor(group, QPalette::ToolTipBase, base);
+        p.setColor(group, QPalette::ToolTipText, text);
+        p.setColor(group, QPalette::PlaceholderText, dark ? QColor(0x8a, 0x8a, 0x8e) : QColor(0x9a, 0x9a, 0x9e));
+        p.setColor(group, QPalette::Light, dark ? QColor(0x50, 0x50, 0x52) : Qt::white);
+        p.setColor(group, QPalette::Midlight, dark ? QColor(0x44, 0x44, 0x46) : QColor(0xe4, 0xe4, 0xe6));
+        p.setColor(group, QPalette::Mid, dark ? QColor(0x30, 0x30, 0x32) : QColor(0xb8, 0xb8, 0xbc));
+        p.setColor(group, QPalette::Dark, dark ? QColor(0x18, 0x18, 0x1a) : QColor(0x9c, 0x9c, 0xa0));
+        p.setColor(group, QPalette::Shadow, Qt::black);
+    }
+    return p;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QCoreApplication::setApplicationVersion(u"0.1.0"_s);
+    const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
+    QDir().mkpath(outputDir);
+
+    MemoryStore store;
+    SettingsManager settings(store, nullptr);
+    BreakConfiguration breaks = settings.breakConfiguration();
+    breaks.longBreakEnabled = true;
+    settings.setBreakConfiguration(breaks);
+    Schedule schedule = settings.schedule();
+    schedule.isEnabled = true;
+    schedule.activeDays = {Weekday::Monday, Weekday::Tuesday, Weekday::Wednesday, Weekday::Thursday, Weekday::Friday};
+    settings.setSchedule(schedule);
+    SmartPauseSettings smartPause = settings.smartPauseSettings();
+    smartPause.deepFocusApps = {{u"Visual Studio Code"_s, u"code"_s, DeepFocusMode::WhenForeground},
+                                {u"Text Editor"_s, u"org.gnome.TextEditor"_s, DeepFocusMode::WhenForegroundFullscreen}};
+    settings.setSmartPauseSettings(smartPause);
+    BreakAppearance appearance = settings.breakAppearance();
+    appearance.backgroundType = BackgroundType::Gradient;
+    appearance.gradientTheme = GradientTheme::Aurora;
+    settings.setBreakAppearance(appearance);
+
+    Lock lock;
+    Workspace workspace;
+    Applications applications;
+    UpdateAvailabilityModel updates;
+    AppcastItem item;
+    item.shortVersionString = u"0.2.0"_s;
+    updates.didFindValidUpdate(item);
+
+    const QStringList tabs = {u"general"_s,       u"breaks"_s,     u"smart-pause"_s,
+                              u"notifications"_s, u"appearance"_s, u"about"_s};
+    int failures = 0;
+    for (const bool dark : {false, true}) {
+        QGuiApplication::setPalette(palette(dark));
+        // A fresh controller per theme, so the palette is read afresh.
+        SettingsWindowController controller({&lock, &workspace, &applications, &updates});
+        controller.showSettings(&settings, nullptr);
+        QQuickWindow* window = controller.settingsWindow();
+        if (!window) {
+            std::fprintf(stderr, "the settings window could not be built\n");
+            return 1;
+        }
+        for (int tab = 0; tab < tabs.size(); ++tab) {
+            window->setProperty("selectedTab", tab);
+            QTest::qWait(100);
+            // Tall enough for the whole pane, so the picture shows every section.
+            const auto* pane = window->property("detailPane").value<QObject*>();
+            const int paneHeight = pane ? pane->property("implicitHeight").toInt() : 0;
+            window->setMaximumHeight(4000);
+            window->resize(window->width(), std::max(580, paneHeight + 90));
+            QTest::qWait(150);
+            const QString path = outputDir + u"/settings-"_s + tabs.at(tab) + (dark ? u"-dark.png"_s : u"-light.png"_s);
+            if (!window->grabWindow().save(path)) {
+                std::fprintf(stderr, "could not write %s\n", qPrintable(path));
+                ++failures;
+            }
+            // The add-focus-app sheet over the Smart Pause pane, at the window's usual size.
+            QObject* sheet = pane ? pane->findChild<QObject*>(u"addFocusAppSheet"_s) : nullptr;
+            if (sheet) {
+                window->resize(740, 580);
+                window->setMaximumHeight(580);
+                QMetaObject::invokeMethod(sheet, "open");
+                QTest::qWait(300);
+                if (auto* model = window->property("focusAppModel").value<QObject*>())
+                    model->setProperty("selectedBundleId", u"org.mozilla.firefox"_s);
+                QTest::qWait(150);
+                const QString sheetPath =
+                    outputDir + u"/settings-add-focus-app"_s + (dark ? u"-dark.png"_s : u"-light.png"_s);
+                if (!window->grabWindow().save(sheetPath))
+                    ++failures;
+                QMetaObject::invokeMethod(sheet, "close");
+                QTest::qWait(300);
+            }
+        }
+        window->close();
+    }
+    return failures == 0 ? 0 : 1;
+}
