@@ -25,14 +25,11 @@ bench: build
 	$(BUILD_DIR)/bench/bench_notification_show
 	bench/footprint.sh $(BUILD_DIR)
 
-# The break screen at 1920×1080 and the pre-break card, rendered without a display, into docs/screenshots.
+# The break screen at 1920×1080, the tray, the pre-break card and the settings panes, rendered without a display, into docs/screenshots.
 screenshots: build
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots docs/screenshots
 	$(BUILD_DIR)/tools/screenshots/velto_screenshots_tray docs/screenshots
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots_notification docs/screenshots
-# The break screen at 1920×1080 and the settings panes, rendered without a display, into docs/screenshots.
-screenshots: build
-	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots docs/screenshots
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots_settings docs/screenshots
 
 deps:

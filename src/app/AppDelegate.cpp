@@ -2,6 +2,7 @@
 
 #include "BreakWindow.h"
 #include "InAppNotificationWindowPresenter.h"
+#include "SettingsWindowController.h"
 #include "StandardUpdaterController.h"
 #include "SystemSleepSignals.h"
 #include "UpdateAvailabilityModel.h"
@@ -48,11 +49,17 @@ AppDelegate::AppDelegate(AppServices services, QObject* parent)
                                                             std::make_unique<UpdateWindowDriver>(version), {}, this);
         m_updaterController->updater()->setOnOpenUrl([](const QUrl& url) { QDesktopServices::openUrl(url); });
     }
+    // Shared by the menu and the command line; the window and its QML engine are built on first use.
+    m_settingsWindowController =
+        new SettingsWindowController({m_services.screenLock.get(), m_activityDetector->workspace(),
+                                      m_services.applicationInfo.get(), m_updateAvailability},
+                                     this);
 }
 
 // The children write to the store, which the services own, so they go first.
 AppDelegate::~AppDelegate()
 {
+    delete m_settingsWindowController;
     delete m_breakWindow;
     delete m_statusItem;
     delete m_updaterController;
@@ -309,8 +316,7 @@ void AppDelegate::pauseFromMenu()
 
 void AppDelegate::openSettingsFromMenu()
 {
-    if (!openSettings())
-        std::fputs("velto: the settings window is not available yet\n", stderr);
+    openSettings();
 }
 
 void AppDelegate::quitFromMenu()
@@ -378,9 +384,7 @@ void AppDelegate::setRemindersEnabled(bool enabled)
 
 bool AppDelegate::openSettings()
 {
-    if (!onOpenSettings)
-        return false;
-    onOpenSettings();
+    m_settingsWindowController->showSettings(m_settingsManager, m_breakManager);
     return true;
 }
 

@@ -16,6 +16,7 @@ class ActivityDetector;
 class BreakManager;
 class BreakWindow;
 class InAppNotificationManager;
+class SettingsWindowController;
 class SettingsManager;
 class StandardUpdaterController;
 class StatusItem;
@@ -64,13 +65,12 @@ public:
     [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }
     [[nodiscard]] ActivityDetector* activityDetector() const { return m_activityDetector; }
     [[nodiscard]] InAppNotificationManager* inAppNotificationManager() const { return m_inAppNotificationManager; }
+    [[nodiscard]] SettingsWindowController* settingsWindowController() const { return m_settingsWindowController; }
     [[nodiscard]] BreakWindow* breakWindow() const;
     [[nodiscard]] StatusItem* statusItem() const;
     [[nodiscard]] UpdateAvailabilityModel* updateAvailability() const { return m_updateAvailability; }
     [[nodiscard]] const AppServices& services() const { return m_services; }
 
-    // How the settings window opens; until it is set, asking for it says it is not available.
-    std::function<void()> onOpenSettings;
     // How the process ends; by default the application's event loop quits.
     std::function<void()> onQuit;
 
@@ -89,6 +89,7 @@ private:
     ActivityDetector* m_activityDetector = nullptr;
     UpdateAvailabilityModel* m_updateAvailability = nullptr;
     StandardUpdaterController* m_updaterController = nullptr;
+    SettingsWindowController* m_settingsWindowController = nullptr;
     bool m_statusItemUpdateQueued = false;
     bool m_hasTrayHost = false;
 };

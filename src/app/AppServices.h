@@ -1,5 +1,6 @@
 #pragma once
 
+#include "detection/ApplicationInfoProviding.h"
 #include "detection/DetectionProviders.h"
 #include "notification/NotificationWindowPresenting.h"
 #include "scheduling/KeyDownTimeProviding.h"
@@ -25,6 +26,8 @@ struct AppServices {
     std::unique_ptr<SystemSleepSignals> sleepSignals;
     // The pre-break card's window; when none is given the shell makes the real one.
     std::unique_ptr<NotificationWindowPresenting> notificationPresenter;
+    // Names and icons for the settings window's list of running applications; none is fine.
+    std::unique_ptr<ApplicationInfoProviding> applicationInfo;
     // Off in tests: the updater reaches out to the network on its own schedule.
     bool runsUpdater = false;
 

@@ -1,5 +1,6 @@
 #include "AppServices.h"
 #include "AudioService.h"
+#include "DesktopApplicationInfo.h"
 #include "LaunchAtLoginService.h"
 #include "SystemDetectionProviders.h"
 #include "SystemScreenLock.h"
@@ -17,7 +18,10 @@ AppServices AppServices::system()
     services.userDefaults = std::make_unique<SettingsFileStore>(SettingsFileStore::defaultFilePath());
     services.launchAtLogin = std::make_unique<LaunchAtLoginService>(
         std::make_unique<XdgAutostartEntry>(QCoreApplication::applicationFilePath()));
-    services.detectionProviders = makeSystemDetectionProviders();
+    // One index of installed applications serves detection and the settings window.
+    auto desktopEntries = std::make_shared<DesktopEntryIndex>();
+    services.detectionProviders = makeSystemDetectionProviders(desktopEntries);
+    services.applicationInfo = std::make_unique<DesktopApplicationInfo>(desktopEntries);
     services.keyDownTime = makeSystemKeyDownTime();
     services.sounds = std::make_unique<AudioService>();
     services.screenLock = std::make_unique<SystemScreenLock>();

@@ -8,6 +8,7 @@
 #include "FakeSoundPlayer.h"
 #include "InMemoryUserDefaults.h"
 #include "PrivateSystemBus.h"
+#include "SettingsWindowController.h"
 #include "SystemSleepSignals.h"
 #include "detection/ActivityDetector.h"
 #include "notification/InAppNotificationManager.h"
@@ -113,7 +114,11 @@ private Q_SLOTS:
         QCOMPARE(status.state, u"idle"_s);
         QCOMPARE(status.pauseReason, u"appDisabled"_s);
         QVERIFY(!status.enabled);
-        QVERIFY(!off.delegate->openSettings());
+        // The menu's Settings item and `velto settings` open the same window, built on first use.
+        QVERIFY(!off.delegate->settingsWindowController()->engineIfCreated());
+        QVERIFY(off.delegate->openSettings());
+        QVERIFY(off.delegate->settingsWindowController()->settingsWindow());
+        QTRY_VERIFY(off.delegate->settingsWindowController()->settingsWindow()->isVisible());
 
         ShellUnderTest on;
         QCOMPARE(on.breaks().state(), BreakState::Working);

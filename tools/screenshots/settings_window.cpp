@@ -1,6 +1,6 @@
 // Renders the six settings panes off screen, light and dark, for the README.
 // Usage: velto_screenshots_settings OUTPUT_DIR
-#include "ApplicationInfoProviding.h"
+#include "detection/ApplicationInfoProviding.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
 #include "detection/WorkspaceProviding.h"

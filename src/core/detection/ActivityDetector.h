@@ -49,6 +49,8 @@ public:
     [[nodiscard]] bool isInFullscreenGame() const { return m_isInFullscreenGame; }
     [[nodiscard]] bool isInDeepFocusApp() const { return m_isInDeepFocusApp; }
     [[nodiscard]] bool isIdle() const { return m_isIdle; }
+    // The running applications as detection sees them; safe on any thread, so others may ask it too.
+    [[nodiscard]] WorkspaceProviding* workspace() const { return m_providers.workspace.get(); }
 
     // What the last pass saw of a meeting; nothing latches them.
     [[nodiscard]] bool meetingPauseCamera() const { return m_meetingPauseCamera; }

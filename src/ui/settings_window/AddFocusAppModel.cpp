@@ -1,6 +1,6 @@
 #include "AddFocusAppModel.h"
 
-#include "ApplicationInfoProviding.h"
+#include "detection/ApplicationInfoProviding.h"
 #include "SettingsPaneModel.h"
 #include "detection/WorkspaceProviding.h"
 #include "settings/SettingsManager.h"

@@ -1,6 +1,6 @@
 #include "ApplicationIconProvider.h"
 
-#include "ApplicationInfoProviding.h"
+#include "detection/ApplicationInfoProviding.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 #include "AddFocusAppModel.h"
-#include "ApplicationInfoProviding.h"
+#include "detection/ApplicationInfoProviding.h"
 #include "FakeDetectionProviders.h"
 #include "InMemoryUserDefaults.h"
 #include "settings/SettingsManager.h"

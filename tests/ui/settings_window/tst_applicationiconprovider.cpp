@@ -1,5 +1,5 @@
 #include "ApplicationIconProvider.h"
-#include "ApplicationInfoProviding.h"
+#include "detection/ApplicationInfoProviding.h"
 #include "SettingsPaneModel.h"
 
 #include <QGuiApplication>

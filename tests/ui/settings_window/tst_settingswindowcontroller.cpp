@@ -1,5 +1,5 @@
 #include "AddFocusAppModel.h"
-#include "ApplicationInfoProviding.h"
+#include "detection/ApplicationInfoProviding.h"
 #include "FakeDetectionProviders.h"
 #include "FakeScreenLock.h"
 #include "InMemoryUserDefaults.h"

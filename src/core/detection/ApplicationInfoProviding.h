@@ -17,7 +17,7 @@ struct ApplicationInfo {
     bool isRegular = true;
 };
 
-// Names and icons of applications for the settings window. Answers from memory without blocking; may be
+// Names and icons of installed applications, for the settings window. Answers from memory without blocking; may be
 // called from any thread (icons are resolved on the QML image thread, running applications on a worker).
 class ApplicationInfoProviding {
 public:
