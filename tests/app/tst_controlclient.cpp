@@ -89,8 +89,8 @@ private Q_SLOTS:
     void quitSucceedsWhenTheInstanceLeavesWithoutAnswering();
 
 private:
+    // Runs a command line as the client would; "--hand-over" stands for a second start handing over.
     [[nodiscard]] Outcome run(const QStringList& arguments, int timeoutMs = 2000);
-    [[nodiscard]] Outcome handOver();
     void startInstance();
 
     FakeControlTarget m_target;
@@ -127,20 +127,12 @@ void TestControlClient::startInstance()
 
 Outcome TestControlClient::run(const QStringList& arguments, int timeoutMs)
 {
-    const CommandLine commandLine = CommandLine::parse(arguments);
     Outcome outcome;
     QTextStream out(&outcome.out);
     QTextStream err(&outcome.err);
-    outcome.exitCode = ControlClient(*m_clientBus, timeoutMs).run(commandLine, out, err);
-    return outcome;
-}
-
-Outcome TestControlClient::handOver()
-{
-    Outcome outcome;
-    QTextStream out(&outcome.out);
-    QTextStream err(&outcome.err);
-    outcome.exitCode = ControlClient(*m_clientBus, 2000).handOver(out, err);
+    ControlClient client(*m_clientBus, timeoutMs);
+    outcome.exitCode = arguments == QStringList{u"--hand-over"_s} ? client.handOver(out, err)
+                                                                  : client.run(CommandLine::parse(arguments), out, err);
     return outcome;
 }
 
@@ -192,13 +184,12 @@ void TestControlClient::statusShowsTheLineAndEachField()
                           u"Reminders:    on\n"_s);
 
     m_target.status = {u"Breaks disabled"_s, u"—"_s, u"idle"_s, u"appDisabled"_s, 4, false};
-    outcome = run({u"status"_s});
-    const QStringList lines = outcome.out.split(u'\n');
-    QCOMPARE(lines.value(0), u"Breaks disabled"_s);
-    QCOMPARE(lines.value(1), u"Time left:    —"_s);
-    QCOMPARE(lines.value(3), u"Pause reason: appDisabled"_s);
-    QCOMPARE(lines.value(4), u"Breaks today: 4"_s);
-    QCOMPARE(lines.value(5), u"Reminders:    off"_s);
+    QCOMPARE(run({u"status"_s}).out, u"Breaks disabled\n"
+                                     u"Time left:    —\n"
+                                     u"State:        idle\n"
+                                     u"Pause reason: appDisabled\n"
+                                     u"Breaks today: 4\n"
+                                     u"Reminders:    off\n"_s);
     QVERIFY(m_target.calls.isEmpty());
 }
 
@@ -213,13 +204,12 @@ void TestControlClient::statusAsJson()
     QJsonParseError error;
     QJsonObject json = QJsonDocument::fromJson(outcome.out.toUtf8(), &error).object();
     QCOMPARE(error.error, QJsonParseError::NoError);
-    QCOMPARE(json.value(u"statusLine"_s).toString(), m_target.status.statusLine);
-    QCOMPARE(json.value(u"timeText"_s).toString(), u"12:00"_s);
-    QCOMPARE(json.value(u"state"_s).toString(), u"paused"_s);
-    QCOMPARE(json.value(u"pauseReason"_s).toString(), u"manuallyPaused"_s);
-    QCOMPARE(json.value(u"breaksToday"_s).toInt(-1), 2);
-    QCOMPARE(json.value(u"enabled"_s).toBool(false), true);
-    QCOMPARE(json.size(), 6);
+    QCOMPARE(json, (QJsonObject{{u"statusLine"_s, m_target.status.statusLine},
+                                {u"timeText"_s, u"12:00"_s},
+                                {u"state"_s, u"paused"_s},
+                                {u"pauseReason"_s, u"manuallyPaused"_s},
+                                {u"breaksToday"_s, 2},
+                                {u"enabled"_s, true}}));
 
     // No pause reason is null, not an empty string.
     m_target.status = {u"Ready"_s, u"—"_s, u"idle"_s, {}, 0, true};
@@ -280,12 +270,12 @@ void TestControlClient::settingsSaysWhenThereIsNoWindow()
 
 void TestControlClient::handOverAsksTheRunningInstanceForItsSettings()
 {
-    Outcome outcome = handOver();
+    Outcome outcome = run({u"--hand-over"_s});
     QCOMPARE(outcome.exitCode, ExitCode::failure);
     QCOMPARE(outcome.err, u"velto: Velto is not running\n"_s);
 
     startInstance();
-    outcome = handOver();
+    outcome = run({u"--hand-over"_s});
     QCOMPARE(outcome.exitCode, ExitCode::success);
     QCOMPARE(m_target.calls, QStringList{u"openSettings"_s});
     QVERIFY(outcome.out.contains(u"already running"_s));
@@ -293,7 +283,7 @@ void TestControlClient::handOverAsksTheRunningInstanceForItsSettings()
 
     // Even without a window to show, the request was handed over: the second start has done its job.
     m_target.settingsAvailable = false;
-    outcome = handOver();
+    outcome = run({u"--hand-over"_s});
     QCOMPARE(outcome.exitCode, ExitCode::success);
     QVERIFY(!outcome.out.contains(u"settings"_s));
 }

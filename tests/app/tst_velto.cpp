@@ -32,7 +32,6 @@ private Q_SLOTS:
     void cleanup();
 
     void helpVersionAndBadArgumentsNeedNoInstance();
-    void commandsWithoutAnInstanceFailAtOnce();
     void theRunningInstanceFollowsTheCommandLine();
     void aSecondStartHandsOverAndLeavesTheFirstRunning();
     void ofSeveralStartingAtOnceExactlyOneRuns();
@@ -155,30 +154,17 @@ void TestVelto::helpVersionAndBadArgumentsNeedNoInstance()
     }
 }
 
-void TestVelto::commandsWithoutAnInstanceFailAtOnce()
-{
-    for (const QString& command : {u"status"_s, u"quit"_s, u"break"_s}) {
-        const Result result = velto({command});
-        QCOMPARE(result.exitCode, 1);
-        QCOMPARE(result.out, QString());
-        QCOMPARE(result.err, u"velto: Velto is not running\n"_s);
-    }
-    // Asking never started one.
-    QVERIFY(!isOwned());
-}
-
 void TestVelto::theRunningInstanceFollowsTheCommandLine()
 {
     QProcess* instance = startInstance();
     QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
     QCOMPARE(ownerPid(), uint(instance->processId()));
 
-    Result result = velto({u"status"_s});
+    const Result result = velto({u"status"_s});
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(result.out.contains(u"  Until next break\n"_s), qPrintable(result.out));
     QVERIFY(result.out.contains(u"State:        working\n"_s));
 
-    QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
     QCOMPARE(velto({u"pause"_s, u"5"_s}).exitCode, 0);
     QJsonObject json = status();
     QCOMPARE(json.value(u"state"_s).toString(), u"paused"_s);
@@ -193,12 +179,9 @@ void TestVelto::theRunningInstanceFollowsTheCommandLine()
     json = status();
     QCOMPARE(json.value(u"enabled"_s).toBool(true), false);
     QCOMPARE(json.value(u"pauseReason"_s).toString(), u"appDisabled"_s);
-    QCOMPARE(json.value(u"statusLine"_s).toString(), u"Breaks disabled"_s);
 
     QCOMPARE(velto({u"enable"_s}).exitCode, 0);
-    json = status();
-    QCOMPARE(json.value(u"enabled"_s).toBool(false), true);
-    QCOMPARE(json.value(u"state"_s).toString(), u"working"_s);
+    QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
 
     QCOMPARE(velto({u"break"_s}).exitCode, 0);
     QCOMPARE(status().value(u"state"_s).toString(), u"onBreak"_s);
@@ -258,7 +241,10 @@ void TestVelto::theCommandLineNeverStartsAGui()
     noDisplay.remove(u"WAYLAND_DISPLAY"_s);
     Result result = velto({u"status"_s}, noDisplay);
     QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.out, QString());
     QCOMPARE(result.err, u"velto: Velto is not running\n"_s);
+    // Asking never started one.
+    QVERIFY(!isOwned());
 
     QProcess* instance = startInstance();
     QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);

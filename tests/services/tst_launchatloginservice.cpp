@@ -39,12 +39,11 @@ class TestLaunchAtLoginService : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void registersAndUnregistersQuietly();
+    void registersQuietlyAndReportsAFailureInOneLine();
     void ciAndTestRunsAreLeftAlone();
-    void aFailurePrintsOneLine();
 };
 
-void TestLaunchAtLoginService::registersAndUnregistersQuietly()
+void TestLaunchAtLoginService::registersQuietlyAndReportsAFailureInOneLine()
 {
     QList<bool> calls;
     QStringList printed;
@@ -55,6 +54,11 @@ void TestLaunchAtLoginService::registersAndUnregistersQuietly()
     service.setEnabled(false);
     QCOMPARE(calls, (QList{true, true, false}));
     QVERIFY(printed.isEmpty());
+
+    LaunchAtLoginService failing(std::make_unique<ScriptedRegistrar>(&calls, u"No autostart entry at /x"_s),
+                                 environmentWith({}), [&](const QString& line) { printed.append(line); });
+    failing.setEnabled(false);
+    QCOMPARE(printed, QStringList{u"Failed to update launch at login: No autostart entry at /x"_s});
 }
 
 void TestLaunchAtLoginService::ciAndTestRunsAreLeftAlone()
@@ -76,16 +80,6 @@ void TestLaunchAtLoginService::ciAndTestRunsAreLeftAlone()
                                  [](const QString&) {});
     service.setEnabled(true);
     QCOMPARE(calls.size(), 1);
-}
-
-void TestLaunchAtLoginService::aFailurePrintsOneLine()
-{
-    QList<bool> calls;
-    QStringList printed;
-    LaunchAtLoginService service(std::make_unique<ScriptedRegistrar>(&calls, u"No autostart entry at /x"_s),
-                                 environmentWith({}), [&](const QString& line) { printed.append(line); });
-    service.setEnabled(false);
-    QCOMPARE(printed, QStringList{u"Failed to update launch at login: No autostart entry at /x"_s});
 }
 
 QTEST_GUILESS_MAIN(TestLaunchAtLoginService)

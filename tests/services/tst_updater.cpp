@@ -113,18 +113,19 @@ class TestUpdater : public QObject {
             configuration.systemVersion = u"6.1"_s;
             configuration.timeout = timeout;
             configuration.maxFeedBytes = maxBytes;
-            updater = std::make_unique<Updater>(configuration, &store, [this] { return now; });
-            updater->setDelegate(&delegate);
-            auto scripted = std::make_unique<ScriptedUserDriver>();
-            driver = scripted.get();
-            updater->setUserDriver(std::move(scripted));
-            updater->setOnOpenUrl([this](const QUrl& url) { opened = url; });
-            model.setUpdater(updater.get());
+            rebuild(configuration);
         }
-        void setFeed(const QUrl& feed)
+        // A fresh updater on the same store and model, as after a restart.
+        void setFeed(const QUrl& feed, const QString& hostVersion = {})
         {
             UpdaterConfiguration configuration = updater->configuration();
             configuration.feedUrl = feed;
+            if (!hostVersion.isEmpty())
+                configuration.hostVersion = hostVersion;
+            rebuild(configuration);
+        }
+        void rebuild(const UpdaterConfiguration& configuration)
+        {
             updater = std::make_unique<Updater>(configuration, &store, [this] { return now; });
             updater->setDelegate(&delegate);
             auto scripted = std::make_unique<ScriptedUserDriver>();
@@ -190,6 +191,11 @@ private Q_SLOTS:
         QVERIFY(rig.check(false));
         QCOMPARE(rig.delegate.found.size(), 3);
         QVERIFY(rig.delegate.errors.isEmpty());
+
+        // A minimum system version above ours keeps a release from being offered; an older release that fits is.
+        rig.setFeed(m_server.url(u"/needs-newer-system.xml"_s));
+        QVERIFY(rig.check(false));
+        QCOMPARE(rig.delegate.found.last().version, u"1.1"_s);
     }
 
     // Nothing newer clears an earlier found update, with the reason the delegate contract names.
@@ -212,14 +218,7 @@ private Q_SLOTS:
         QVERIFY(rig.check(false));
         QVERIFY(rig.model.updateAvailable());
 
-        rig.setFeed(m_server.url(path));
-        UpdaterConfiguration configuration = rig.updater->configuration();
-        configuration.hostVersion = hostVersion;
-        rig.updater = std::make_unique<Updater>(configuration, &rig.store, [&rig] { return rig.now; });
-        rig.updater->setDelegate(&rig.delegate);
-        auto driver = std::make_unique<ScriptedUserDriver>();
-        ScriptedUserDriver* shown = driver.get();
-        rig.updater->setUserDriver(std::move(driver));
+        rig.setFeed(m_server.url(path), hostVersion);
         QVERIFY(rig.check(true));
 
         QCOMPARE(rig.delegate.errors.size(), 1);
@@ -228,7 +227,7 @@ private Q_SLOTS:
         QCOMPARE(rig.delegate.lastReason(), reason);
         QVERIFY(!rig.model.updateAvailable());
         QVERIFY(rig.model.availableVersionDisplayString().isNull());
-        QCOMPARE(shown->shown, QStringList{u"up to date"_s});
+        QCOMPARE(rig.driver->shown, QStringList{u"up to date"_s});
     }
 
     // A check that fails says why, and an update found earlier stays published untouched.
@@ -291,23 +290,19 @@ private Q_SLOTS:
         QCOMPARE(Updater::isAllowedFeedUrl(QUrl(url)), allowed);
     }
 
-    void insecureFeedIsNeverFetched()
+    // An insecure feed is never fetched; the address set at build time must be one the updater will fetch.
+    void insecureFeedIsNeverFetchedAndTheShippedOneIs()
     {
+        const UpdaterConfiguration shipped = defaultUpdaterConfiguration(u"1.0"_s);
+        QVERIFY2(Updater::isAllowedFeedUrl(shipped.feedUrl), qPrintable(shipped.feedUrl.toString()));
+        QCOMPARE(shipped.feedUrl.scheme(), u"https"_s);
+
         Rig rig(QUrl(u"http://velto.invalid/appcast.xml"_s), u"1.0"_s);
         QVERIFY(!rig.updater->start());
         QVERIFY(!rig.updater->nextScheduledCheckDate().isValid());
         QVERIFY(rig.check(false));
         QCOMPARE(rig.delegate.errors.size(), 1);
         QCOMPARE(rig.delegate.errors.at(0).code, int(UpdaterErrors::FeedInsecure));
-    }
-
-    // A minimum system version above ours keeps a release from being offered; an older release that fits is.
-    void offersOnlyWhatThisSystemRuns()
-    {
-        Rig rig(m_server.url(u"/needs-newer-system.xml"_s), u"1.0"_s);
-        QVERIFY(rig.check(false));
-        QCOMPARE(rig.delegate.found.size(), 1);
-        QCOMPARE(rig.delegate.found.at(0).version, u"1.1"_s);
     }
 
     // Skipping clears the model and is remembered: the same version is not offered again, a later one is.
@@ -506,15 +501,6 @@ private Q_SLOTS:
         QVERIFY(!model.updater());
         model.checkForUpdates(); // the updater is gone: nothing happens
         QVERIFY(model.updateAvailable());
-    }
-
-    // The feed address set at build time must be one the updater will fetch, or Velto never sees an update.
-    void shippedFeedIsFetchable()
-    {
-        const UpdaterConfiguration configuration = defaultUpdaterConfiguration(u"1.0"_s);
-        QVERIFY2(Updater::isAllowedFeedUrl(configuration.feedUrl), qPrintable(configuration.feedUrl.toString()));
-        QCOMPARE(configuration.feedUrl.scheme(), u"https"_s);
-        QCOMPARE(configuration.hostVersion, u"1.0"_s);
     }
 };
 

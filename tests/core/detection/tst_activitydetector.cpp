@@ -120,9 +120,6 @@ void TestActivityDetector::everyPassPublishesEveryFlag()
     rig.pass();
     QVERIFY(sawOldValue);
     QVERIFY(!rig.detector->isScreenRecording());
-
-    // The flags are observable properties carrying their values.
-    QCOMPARE(rig.detector->property("isIdle").toBool(), true);
 }
 
 void TestActivityDetector::meetingFieldsDescribeTheLastPassOnly()
@@ -160,9 +157,6 @@ void TestActivityDetector::coolDownAfterActivity()
     Rig rig;
     rig.meetingsOnly();
     rig.configure([](SmartPauseSettings& s) { s.cooldownAfterActivity = 60; });
-    QCOMPARE(rig.detector->activityStatusText(), u"Smart Pause active"_s);
-    QCOMPARE(rig.detector->activityStatusSymbolName(), u"pause.circle"_s);
-
     rig.fakes.microphone->identifiers.set({u"mic"_s});
     rig.pass();
     QVERIFY(rig.detector->isActivityDetected());
@@ -174,7 +168,6 @@ void TestActivityDetector::coolDownAfterActivity()
     // Held for the cool-down, measured from the end of the last pass that saw the meeting.
     QVERIFY(rig.detector->isActivityDetected());
     QCOMPARE(rig.detector->activityStatusText(), u"Winding down\u2026"_s);
-    QCOMPARE(rig.detector->activityStatusSymbolName(), u"hourglass"_s);
     rig.fakes.clock->advance(57.9);
     QVERIFY(rig.detector->isActivityDetected());
     rig.fakes.clock->advance(0.1);
@@ -213,8 +206,6 @@ void TestActivityDetector::idleHoldsOnlyWhileItLasts()
     rig.pass();
     QVERIFY(rig.detector->isIdle());
     QVERIFY(rig.detector->isActivityDetected());
-    QCOMPARE(rig.detector->activityStatusText(), u"Away from desk"_s);
-    QCOMPARE(rig.detector->activityStatusSymbolName(), u"moon"_s);
 
     // Input resumes: released at the next pass, no cool-down, and never a stamp.
     rig.fakes.idleTime->seconds.set(0.5);

@@ -54,12 +54,6 @@ private Q_SLOTS:
 void TestDetectionRules::knownApplicationTables()
 {
     namespace KA = KnownApplications;
-    QCOMPARE(KA::meetingApplications().written.size(), 39u);
-    QCOMPARE(KA::browsers().written.size(), 11u);
-    QCOMPARE(KA::videoPlayers().written.size(), 8u);
-    QCOMPARE(KA::screenRecorders().written.size(), 8u);
-    QCOMPARE(KA::screenRecordingIgnored().written.size(), 2u);
-
     // A Linux row may repeat a written identity only under the same name; no table lists an identity twice.
     QHash<QString, QString> written;
     for (const auto& row : KA::meetingApplications().written) {
@@ -88,9 +82,6 @@ void TestDetectionRules::knownApplicationTables()
     QCOMPARE(KA::meetingAppName(u"us.zoom.Zoom"_s), u"Zoom"_s);
     QCOMPARE(KA::meetingAppName(u"com.discordapp.Discord"_s), u"Discord"_s);
     QCOMPARE(KA::meetingAppName(u"COM.SLACK.SLACK"_s), std::nullopt);
-    QVERIFY(KA::videoPlayerBundleIdentifiers().contains(u"org.videolan.VLC"_s));
-    QVERIFY(KA::screenRecorderBundleIdentifiers().contains(u"com.obsproject.Studio"_s));
-    QVERIFY(KA::screenRecordingIgnoredBundleIdentifiers().contains(u"com.apple.finder"_s));
 }
 
 void TestDetectionRules::meetingDecisionTable_data()

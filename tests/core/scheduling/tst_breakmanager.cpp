@@ -528,9 +528,6 @@ void TestBreakManager::textsForTheMenuAndTheBreakScreen()
     QCOMPARE(PauseReason::manuallyPaused(now.addMSecs(60500)).displayText(now), u"Paused \u00B7 resumes in 2 min"_s);
     QCOMPARE(PauseReason::manuallyPaused(now).displayText(now), u"Paused"_s);
     QCOMPARE(PauseReason::manuallyPaused().displayText(now), u"Paused"_s);
-    QCOMPARE(PauseReason::outsideOfficeHours().displayText(now), u"Outside office hours"_s);
-    QCOMPARE(PauseReason::appDisabled().displayText(now), u"Breaks disabled"_s);
-    QCOMPARE(PauseReason::smartActivity().displayText(now), u"Smart Pause active"_s);
     QVERIFY(PauseReason::manuallyPaused(now) != PauseReason::manuallyPaused());
 
     Rig rig;

@@ -24,6 +24,19 @@ BreakConfiguration configuration(double work, double shortBreak, bool longOn, do
     return BreakConfiguration::withTiming({work, shortBreak, longOn, longLength, frequency});
 }
 
+// What a first start shows, and what a reset returns to.
+void verifyDefaults(const SettingsManager& settings)
+{
+    QVERIFY(settings.isEnabled() && settings.showTimerInMenuBar() && settings.launchAtLogin());
+    QCOMPARE(settings.breakConfiguration(), BreakConfiguration());
+    QCOMPARE(settings.breakPresetSelection(), BreakPresetKind::Balanced);
+    QCOMPARE(settings.breakBehaviorBaseline(), defaultBehavior);
+    QCOMPARE(settings.schedule(), Schedule());
+    QCOMPARE(settings.smartPauseSettings(), SmartPauseSettings());
+    QCOMPARE(settings.notificationSettings(), NotificationSettings());
+    QCOMPARE(settings.breakAppearance(), BreakAppearance());
+}
+
 } // namespace
 
 class TestSettingsManager : public QObject {
@@ -47,14 +60,7 @@ void TestSettingsManager::firstStartWritesNothingUntilTheFirstChange()
     SettingsManager settings(store, &login);
 
     QVERIFY(!settings.isLoading());
-    QVERIFY(settings.isEnabled() && settings.showTimerInMenuBar() && settings.launchAtLogin());
-    QCOMPARE(settings.breakConfiguration(), BreakConfiguration());
-    QCOMPARE(settings.breakPresetSelection(), BreakPresetKind::Balanced);
-    QCOMPARE(settings.breakBehaviorBaseline(), defaultBehavior);
-    QCOMPARE(settings.schedule(), Schedule());
-    QCOMPARE(settings.smartPauseSettings(), SmartPauseSettings());
-    QCOMPARE(settings.notificationSettings(), NotificationSettings());
-    QCOMPARE(settings.breakAppearance(), BreakAppearance());
+    verifyDefaults(settings);
     QCOMPARE(login.calls, QList{true});
     QVERIFY(store.writtenKeys.isEmpty());
 
@@ -282,12 +288,7 @@ void TestSettingsManager::resetRestoresEverythingAndSavesEachStep()
     QSignalSpy selectionChanged(&settings, &SettingsManager::breakPresetSelectionChanged);
 
     settings.resetToDefaults();
-    QVERIFY(settings.isEnabled() && settings.showTimerInMenuBar() && settings.launchAtLogin());
-    QCOMPARE(settings.breakConfiguration(), BreakConfiguration());
-    QCOMPARE(settings.breakPresetSelection(), BreakPresetKind::Balanced);
-    QCOMPARE(settings.breakBehaviorBaseline(), defaultBehavior);
-    QCOMPARE(settings.smartPauseSettings(), SmartPauseSettings());
-    QCOMPARE(settings.breakAppearance(), BreakAppearance());
+    verifyDefaults(settings);
     QVERIFY(!settings.isApplyingBreakPreset());
     QCOMPARE(login.calls, QList{true});
     QCOMPARE(store.writtenKeys.size(), 9 * allKeys.size());

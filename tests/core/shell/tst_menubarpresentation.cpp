@@ -115,14 +115,12 @@ private Q_SLOTS:
         in.state = BreakState::Idle;
         in.pauseReason = PauseReason::appDisabled();
         QCOMPARE(makeMenuBarPresentation(in).accessibilityValue(), u"No active timer"_s);
-    }
 
-    void smartPauseFallsBackWithoutDetectorTexts()
-    {
-        MenuBarInputs in;
+        // Smart Pause without texts from the detector falls back to its own, and shows no title.
+        in.showTimerInMenuBar = true;
         in.state = BreakState::Working;
         in.pauseReason = PauseReason::smartActivity();
-        const auto p = makeMenuBarPresentation(in);
+        p = makeMenuBarPresentation(in);
         QCOMPARE(p.statusText, u"Smart Pause active"_s);
         QCOMPARE(p.symbolName, u"pause.circle"_s);
         QVERIFY(p.statusItemTitle.isEmpty());

@@ -103,13 +103,9 @@ class TestInAppNotificationWindowPresenter : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
-    void theCardRestsAtTheTopLeftOfThePrimaryScreen();
-    void theWindowStaysOutOfTheUsersWay();
-    void theEngineIsMadeOnFirstUseAndKept();
-    void arrivalSlidesAndFades_data();
-    void arrivalSlidesAndFades();
-    void hidingWaitsForTheEventLoopThenLeavesLeft_data();
-    void hidingWaitsForTheEventLoopThenLeavesLeft();
+    void aToolWindowAtTheTopLeftOfThePrimaryScreen();
+    void arrivesAndLeavesWithTheRightMotion_data();
+    void arrivesAndLeavesWithTheRightMotion();
     void aShowWhileTheCardFadesOutKeepsTheNewCard();
     void textsFollowTheBreakAndTheCountdownTheModel();
     void controlsCallTheirActions_data();
@@ -129,108 +125,81 @@ void TestInAppNotificationWindowPresenter::cleanup()
     QTRY_VERIFY(QGuiApplication::topLevelWindows().isEmpty());
 }
 
-void TestInAppNotificationWindowPresenter::theCardRestsAtTheTopLeftOfThePrimaryScreen()
+void TestInAppNotificationWindowPresenter::aToolWindowAtTheTopLeftOfThePrimaryScreen()
 {
     QCOMPARE(InAppNotificationWindowPresenter::finalFrame(QRect(0, 32, 1920, 1048)), QRect(16, 52, 420, 216));
 
     Rig rig;
+    QCOMPARE(rig.presenter.engineIfCreated(), nullptr);
     QQuickWindow* panel = rig.show();
     QVERIFY(panel != nullptr);
     QScreen* primary = QGuiApplication::primaryScreen();
     QCOMPARE(primary->name(), u"a-main"_s);
     QCOMPARE(panel->screen(), primary);
     QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    // The slide happens inside: the window does not move while the card arrives.
-    finish(rig.host()->runningAnimation());
-    QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
-    QCOMPARE(rig.card()->size(), QSizeF(420, 216));
-}
-
-void TestInAppNotificationWindowPresenter::theWindowStaysOutOfTheUsersWay()
-{
-    Rig rig;
-    QQuickWindow* panel = rig.show();
+    // Out of the user's way: never takes focus, never in the task bar, above other windows.
     const Qt::WindowFlags flags = panel->flags();
     QCOMPARE(flags & Qt::WindowType_Mask, Qt::Tool);
     QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
     QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
     QVERIFY(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
-    QVERIFY(panel->isVisible());
     QVERIFY(QGuiApplication::focusWindow() != panel);
-}
+    QVERIFY(QTest::qWaitForWindowExposed(panel));
+    // The slide happens inside: the window does not move while the card arrives.
+    finish(rig.host()->runningAnimation());
+    QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
+    QCOMPARE(rig.card()->size(), QSizeF(420, 216));
 
-void TestInAppNotificationWindowPresenter::theEngineIsMadeOnFirstUseAndKept()
-{
-    Rig rig;
-    QCOMPARE(rig.presenter.engineIfCreated(), nullptr);
-    rig.show();
+    // The engine is made on first use and kept for later cards.
     QQmlEngine* engine = rig.presenter.engineIfCreated();
     QVERIFY(engine != nullptr);
     rig.show();
     QCOMPARE(rig.presenter.engineIfCreated(), engine);
 }
 
-void TestInAppNotificationWindowPresenter::arrivalSlidesAndFades_data()
+void TestInAppNotificationWindowPresenter::arrivesAndLeavesWithTheRightMotion_data()
 {
     QTest::addColumn<bool>("reduceMotion");
-    QTest::addColumn<double>("startX");
-    QTest::addColumn<int>("milliseconds");
-    QTest::newRow("slides 28 px while fading in") << false << -28.0 << 320;
-    QTest::newRow("reduced motion only fades") << true << 0.0 << 160;
+    QTest::addColumn<double>("offsetX");
+    QTest::addColumn<int>("arrivalMs");
+    QTest::addColumn<int>("leavingMs");
+    QTest::newRow("slides 28 px while fading") << false << -28.0 << 320 << 200;
+    QTest::newRow("reduced motion only fades") << true << 0.0 << 160 << 140;
 }
 
-void TestInAppNotificationWindowPresenter::arrivalSlidesAndFades()
+void TestInAppNotificationWindowPresenter::arrivesAndLeavesWithTheRightMotion()
 {
     QFETCH(bool, reduceMotion);
-    QFETCH(double, startX);
-    QFETCH(int, milliseconds);
+    QFETCH(double, offsetX);
+    QFETCH(int, arrivalMs);
+    QFETCH(int, leavingMs);
     Rig rig;
     rig.reduceMotion = reduceMotion;
-    rig.show();
-    QCOMPARE(rig.card()->x(), startX);
+    QPointer<QQuickWindow> panel = rig.show();
+    QCOMPARE(rig.card()->x(), offsetX);
     QCOMPARE(rig.card()->opacity(), 0.0);
     QParallelAnimationGroup* arrival = rig.host()->runningAnimation();
     QPropertyAnimation* slide = animationOf(arrival, "x");
     QPropertyAnimation* fade = animationOf(arrival, "opacity");
     QVERIFY(slide && fade);
-    QCOMPARE(slide->duration(), milliseconds);
-    QCOMPARE(fade->duration(), milliseconds);
+    QCOMPARE(slide->duration(), arrivalMs);
+    QCOMPARE(fade->duration(), arrivalMs);
     QCOMPARE(slide->easingCurve(), NotificationMotion::arrivalCurve());
     // Quick to move, slow to settle: most of the way there at a third of the time.
     QVERIFY(slide->easingCurve().valueForProgress(1.0 / 3) > 0.8);
     finish(arrival);
     QCOMPARE(rig.card()->x(), 0.0);
     QCOMPARE(rig.card()->opacity(), 1.0);
-}
 
-void TestInAppNotificationWindowPresenter::hidingWaitsForTheEventLoopThenLeavesLeft_data()
-{
-    QTest::addColumn<bool>("reduceMotion");
-    QTest::addColumn<double>("endX");
-    QTest::addColumn<int>("milliseconds");
-    QTest::newRow("slides back 28 px") << false << -28.0 << 200;
-    QTest::newRow("reduced motion fades in place") << true << 0.0 << 140;
-}
-
-void TestInAppNotificationWindowPresenter::hidingWaitsForTheEventLoopThenLeavesLeft()
-{
-    QFETCH(bool, reduceMotion);
-    QFETCH(double, endX);
-    QFETCH(int, milliseconds);
-    Rig rig;
-    rig.reduceMotion = reduceMotion;
-    QPointer<QQuickWindow> panel = rig.show();
-    finish(rig.host()->runningAnimation());
-
+    // Hiding waits for the event loop, then leaves to the left.
     rig.presenter.hide();
     QCOMPARE(rig.host()->runningAnimation(), nullptr);
     runDeferred(&rig.presenter);
     QParallelAnimationGroup* leaving = rig.host()->runningAnimation();
-    QPropertyAnimation* slide = animationOf(leaving, "x");
+    slide = animationOf(leaving, "x");
     QVERIFY(slide != nullptr);
-    QCOMPARE(slide->duration(), milliseconds);
-    QCOMPARE(slide->endValue().toDouble(), endX);
+    QCOMPARE(slide->duration(), leavingMs);
+    QCOMPARE(slide->endValue().toDouble(), offsetX);
     QCOMPARE(animationOf(leaving, "opacity")->endValue().toDouble(), 0.0);
     QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
     QCOMPARE(rig.presenter.panel(), panel.data());
@@ -298,24 +267,14 @@ void TestInAppNotificationWindowPresenter::textsFollowTheBreakAndTheCountdownThe
     QCOMPARE(text(u"countdownText"_s), u"2:05"_s);
     QCOMPARE(evaluate(countdown, u"Accessible.name"_s).toString(), u"Break in 2 minutes 5 seconds"_s);
 
-    QCOMPARE(item(panel, u"breakNowButton"_s)->property("text").toString(), u"Break now"_s);
-    QCOMPARE(item(panel, u"pauseOneMinuteButton"_s)->property("text").toString(), u"1 min"_s);
-    QCOMPARE(item(panel, u"pauseThreeMinutesButton"_s)->property("text").toString(), u"3 min"_s);
-    QQuickItem* skip = item(panel, u"skipButton"_s);
-    QCOMPARE(skip->property("text").toString(), u"Skip"_s);
-    QCOMPARE(evaluate(skip, u"Accessible.name"_s).toString(), u"Skip break"_s);
-    QCOMPARE(evaluate(skip, u"Accessible.description"_s).toString(),
-             u"Returns to work and skips this break when your skip settings allow."_s);
-    QCOMPARE(evaluate(item(panel, u"dismissButton"_s), u"Accessible.name"_s).toString(), u"Dismiss"_s);
-    QCOMPARE(evaluate(item(panel, u"swipeHint"_s), u"Accessible.name"_s).toString(), u"Swipe to close"_s);
+    // The skip button says what it does only to assistive technology.
+    QCOMPARE(evaluate(item(panel, u"skipButton"_s), u"Accessible.name"_s).toString(), u"Skip break"_s);
     // The buttons keep to one row inside the card's padding.
     QQuickItem* toolbar = item(panel, u"toolbar"_s);
     QVERIFY(toolbar->mapToScene(QPointF(toolbar->width(), 0)).x() <= 420 - 22);
 
     QQuickWindow* longPanel = rig.show(BreakType::Long, 3600);
     QCOMPARE(item(longPanel, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
-    QCOMPARE(item(longPanel, u"bodyText"_s)->property("text").toString(),
-             u"Wrap up or park your task. You’re nearly at a longer chance to step away."_s);
     QCOMPARE(item(longPanel, u"countdownText"_s)->property("text").toString(), u"60:00"_s);
 }
 
@@ -352,16 +311,12 @@ void TestInAppNotificationWindowPresenter::coloursFollowTheDesktopPalette()
     QCOMPARE(rig.card()->property("dark").toBool(), false);
     QCOMPARE(item(light, u"titleText"_s)->property("color").value<QColor>().rgba(),
              QColor::fromRgbF(0.06F, 0.06F, 0.06F).rgba());
-    QCOMPARE(item(light, u"bodyText"_s)->property("color").value<QColor>().rgba(),
-             QColor::fromRgbF(0.18F, 0.18F, 0.18F).rgba());
 
     QGuiApplication::setPalette(paletteWithWindow(QColor(0x2b, 0x2b, 0x2e)));
     QQuickWindow* dark = rig.show();
     QCOMPARE(rig.card()->property("dark").toBool(), true);
     QCOMPARE(item(dark, u"titleText"_s)->property("color").value<QColor>().rgba(),
              QColor::fromRgbF(0.99F, 0.99F, 0.99F).rgba());
-    QCOMPARE(item(dark, u"upcomingLabel"_s)->property("color").value<QColor>().rgba(),
-             QColor::fromRgbF(0.72F, 0.72F, 0.72F).rgba());
     // The primary button is filled with the primary colour (white on dark); the others only have a border.
     auto fill = [dark](const QString& button) { return item(dark, button)->findChild<QQuickItem*>(u"fill"_s); };
     QCOMPARE(fill(u"breakNowButton"_s)->property("color").value<QColor>(), QColor(Qt::white));

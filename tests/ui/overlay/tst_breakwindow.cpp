@@ -31,10 +31,11 @@ constexpr char screensConfig[] = R"({"screens": [
 ]})";
 
 struct Rig {
-    Rig()
+    explicit Rig(bool mainScreenOnly = false)
     {
         breaks.setSettingsManager(&settings);
-        configure([](BreakConfiguration& c) { c.skipDifficulty = SkipDifficulty::Balanced; });
+        if (mainScreenOnly)
+            appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
     }
 
     void configure(const std::function<void(BreakConfiguration&)>& change)
@@ -51,6 +52,15 @@ struct Rig {
         settings.setBreakAppearance(value);
     }
 
+    // Starts a short break and returns its first window once it is on screen.
+    QQuickWindow* showBreak()
+    {
+        breaks.takeBreakNow();
+        overlay.show(BreakType::Short);
+        QQuickWindow* window = overlay.windows().value(0);
+        return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
+    }
+
     InMemoryUserDefaults store;
     SettingsManager settings{store, nullptr};
     BreakManager breaks{store};
@@ -64,6 +74,11 @@ QQuickItem* find(QQuickWindow* window, const char* name)
     return window->findChild<QQuickItem*>(QString::fromLatin1(name));
 }
 
+QPoint centreOf(QQuickItem* item)
+{
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
 } // namespace
 
 class TestBreakWindow : public QObject {
@@ -72,12 +87,8 @@ class TestBreakWindow : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void targetScreens();
-    void allScreensCoversEveryScreenInOrder();
-    void mainScreenOnlyTakesThePrimary();
-    void windowsStayOutOfTheWayOfTheWindowManager();
-    void theEngineIsMadeOnFirstUseAndKept();
-    void showTwiceThenOneHideFadesAll();
-    void aShowDuringAFadeOutStartsEmpty();
+    void coversTheTargetScreensInOrder();
+    void hidingFadesEveryWindowAndAShowStartsAfresh();
     void hideWithoutWindowsStillChimes();
     void startChimeThenLock();
     void skipButtonRulesOnScreen();
@@ -110,9 +121,10 @@ void TestBreakWindow::targetScreens()
     QVERIFY(breakTargetScreens(ScreenDisplayMode::AllScreens, {}, nullptr).isEmpty());
 }
 
-void TestBreakWindow::allScreensCoversEveryScreenInOrder()
+void TestBreakWindow::coversTheTargetScreensInOrder()
 {
     Rig rig;
+    QVERIFY(!rig.overlay.engineIfCreated());
     rig.breaks.takeBreakNow();
     rig.overlay.show(BreakType::Short);
     const QList<QScreen*> screens = QGuiApplication::screens();
@@ -122,54 +134,29 @@ void TestBreakWindow::allScreensCoversEveryScreenInOrder()
         QCOMPARE(window->screen(), screens[i]);
         QCOMPARE(window->geometry(), screens[i]->geometry());
         QVERIFY(window->isVisible());
+        QVERIFY(window->flags().testFlag(Qt::FramelessWindowHint));
+        QVERIFY(window->flags().testFlag(Qt::WindowStaysOnTopHint));
         // The view fills its window.
         QCOMPARE(window->contentItem()->childItems().first()->size(), QSizeF(screens[i]->geometry().size()));
     }
     // Each window fades in from transparent to opaque.
     QCOMPARE(rig.overlay.windows()[0]->opacity(), 0.0);
     QTRY_COMPARE_WITH_TIMEOUT(rig.overlay.windows()[0]->opacity(), 1.0, 2000);
-}
 
-void TestBreakWindow::mainScreenOnlyTakesThePrimary()
-{
-    Rig rig;
+    // The engine is made on first use and kept; the main screen alone gets the primary's window.
+    QQmlEngine* engine = rig.overlay.engineIfCreated();
+    QVERIFY(engine);
+    rig.overlay.hide();
     rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
+    rig.overlay.show(BreakType::Long);
+    QCOMPARE(rig.overlay.engineIfCreated(), engine);
     QCOMPARE(rig.overlay.windows().size(), 1);
     QCOMPARE(rig.overlay.windows().first()->screen(), QGuiApplication::primaryScreen());
 }
 
-void TestBreakWindow::windowsStayOutOfTheWayOfTheWindowManager()
+void TestBreakWindow::hidingFadesEveryWindowAndAShowStartsAfresh()
 {
-    Rig rig;
-    rig.breaks.takeBreakNow();
-    QQuickWindow* window = rig.overlay.makeBreakWindow(QGuiApplication::screens()[2], BreakType::Short);
-    QVERIFY(window);
-    const Qt::WindowFlags flags = window->flags();
-    QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
-    QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
-    QCOMPARE(window->geometry(), QGuiApplication::screens()[2]->geometry());
-    delete window;
-}
-
-void TestBreakWindow::theEngineIsMadeOnFirstUseAndKept()
-{
-    Rig rig;
-    QVERIFY(!rig.overlay.engineIfCreated());
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    QQmlEngine* engine = rig.overlay.engineIfCreated();
-    QVERIFY(engine);
-    rig.overlay.hide();
-    rig.overlay.show(BreakType::Long);
-    QCOMPARE(rig.overlay.engineIfCreated(), engine);
-}
-
-void TestBreakWindow::showTwiceThenOneHideFadesAll()
-{
-    Rig rig;
-    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    Rig rig(true);
     rig.breaks.takeBreakNow();
     rig.overlay.show(BreakType::Short);
     rig.overlay.show(BreakType::Short);
@@ -184,13 +171,8 @@ void TestBreakWindow::showTwiceThenOneHideFadesAll()
     QVERIFY(shown[0] && shown[1]);
     QVERIFY(shown[0]->isVisible());
     QTRY_VERIFY_WITH_TIMEOUT(!shown[0] && !shown[1], 2000);
-}
 
-void TestBreakWindow::aShowDuringAFadeOutStartsEmpty()
-{
-    Rig rig;
-    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
-    rig.breaks.takeBreakNow();
+    // A show during a fade-out gets a window of its own, which the fade does not take along.
     rig.overlay.show(BreakType::Short);
     QPointer<QQuickWindow> leaving = rig.overlay.windows().first();
     rig.overlay.hide();
@@ -243,35 +225,28 @@ void TestBreakWindow::startChimeThenLock()
 
 void TestBreakWindow::skipButtonRulesOnScreen()
 {
-    Rig rig;
-    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    Rig rig(true);
     rig.configure([](BreakConfiguration& c) { c.allowEarlyEnd = false; });
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    QQuickWindow* window = rig.overlay.windows().first();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QQuickWindow* window = rig.showBreak();
+    QVERIFY(window);
     QQuickItem* skip = find(window, "skipButton");
-    QVERIFY(skip);
-    QVERIFY(skip->isVisible());
-    const QPoint centre = skip->mapToScene(QPointF(skip->width() / 2, skip->height() / 2)).toPoint();
+    QVERIFY(skip && skip->isVisible());
     // Dimmed and deaf for the first two seconds of a balanced break.
     QCOMPARE(skip->property("usable").toBool(), false);
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre);
+    QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(skip));
     QCOMPARE(rig.breaks.state(), BreakState::OnBreak);
     QTRY_VERIFY_WITH_TIMEOUT(skip->property("usable").toBool(), 3000);
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre);
+    QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(skip));
     QVERIFY(rig.breaks.state() != BreakState::OnBreak);
 
-    // Hardcore without early end: no Skip at all, and End Break never comes.
-    Rig hardcore;
-    hardcore.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+    // Committed without early end: no Skip at all, End Break never comes, and the row takes no room.
+    Rig hardcore(true);
     hardcore.configure([](BreakConfiguration& c) {
         c.allowEarlyEnd = false;
         c.skipDifficulty = SkipDifficulty::Hardcore;
     });
-    hardcore.breaks.takeBreakNow();
-    hardcore.overlay.show(BreakType::Short);
-    QQuickWindow* strict = hardcore.overlay.windows().first();
+    QQuickWindow* strict = hardcore.showBreak();
+    QVERIFY(strict);
     QVERIFY(!find(strict, "skipButton")->isVisible());
     for (int i = 0; i < 19; ++i)
         hardcore.breaks.breakTick();
@@ -281,12 +256,9 @@ void TestBreakWindow::skipButtonRulesOnScreen()
 
 void TestBreakWindow::endBreakButtonEndsTheBreak()
 {
-    Rig rig;
-    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    QQuickWindow* window = rig.overlay.windows().first();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
+    Rig rig(true);
+    QQuickWindow* window = rig.showBreak();
+    QVERIFY(window);
     QQuickItem* endBreak = find(window, "endBreakButton");
     QQuickItem* time = find(window, "timeText");
     QCOMPARE(time->property("text").toString(), u"20"_s);
@@ -296,25 +268,21 @@ void TestBreakWindow::endBreakButtonEndsTheBreak()
     QCOMPARE(time->property("text").toString(), u"10"_s);
     QVERIFY(endBreak->isVisible());
     QTest::qWait(50); // let the row lay the new button out
-    const QPoint centre = endBreak->mapToScene(QPointF(endBreak->width() / 2, endBreak->height() / 2)).toPoint();
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre);
+    QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(endBreak));
     QVERIFY(rig.breaks.state() != BreakState::OnBreak);
     QCOMPARE(rig.breaks.dailyBreakCount(), 1);
 }
 
 void TestBreakWindow::dimLayerOnScreen()
 {
-    Rig rig;
+    Rig rig(true);
     rig.appearance([](BreakAppearance& a) {
-        a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly;
         a.backgroundType = BackgroundType::SolidColor;
         a.backgroundColor = {1, 1, 1, 1};
         a.overlayOpacity = 0.6;
     });
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    QQuickWindow* window = rig.overlay.windows().first();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QQuickWindow* window = rig.showBreak();
+    QVERIFY(window);
     QQuickItem* dim = find(window, "dimLayer");
     QVERIFY(qFuzzyCompare(dim->opacity(), 0.4));
     // White under black at 0.4 reads as 60 % grey in a corner the content leaves alone.
@@ -340,17 +308,14 @@ void TestBreakWindow::customImageAndItsFallback()
     file.write("\x89PNG\r\n\x1a\n not really");
     file.close();
 
-    Rig rig;
+    Rig rig(true);
     rig.appearance([&](BreakAppearance& a) {
-        a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly;
         a.backgroundType = BackgroundType::CustomImage;
         a.customImagePath = picture;
         a.overlayOpacity = 1.0;
     });
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    QQuickWindow* window = rig.overlay.windows().first();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QQuickWindow* window = rig.showBreak();
+    QVERIFY(window);
     QVERIFY(find(window, "backgroundImage")->isVisible());
     QVERIFY(!find(window, "backgroundGradient")->isVisible());
     QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::red));
@@ -392,7 +357,6 @@ void TestBreakWindow::desktopPictureSettings()
 
 int main(int argc, char** argv)
 {
-
     QTemporaryDir configDir;
     const QString config = configDir.filePath(u"screens.json"_s);
     QFile file(config);
