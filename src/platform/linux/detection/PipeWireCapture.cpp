@@ -50,7 +50,14 @@ public:
     explicit RegistryVisit(const QString& remoteName)
     {
         static std::once_flag initialised;
-        std::call_once(initialised, [] { pw_init(nullptr, nullptr); });
+        std::call_once(initialised, [] {
+            pw_init(nullptr, nullptr);
+            // The library warns on stderr about every short-lived context (no modules from configuration, no
+            // real-time scheduling); one visit per pass would flood it. Errors still show, and the user's
+            // PIPEWIRE_DEBUG still wins.
+            if (qEnvironmentVariableIsEmpty("PIPEWIRE_DEBUG"))
+                pw_log_set_level(SPA_LOG_LEVEL_ERROR);
+        });
         m_loop = pw_loop_new(nullptr);
         if (m_loop == nullptr)
             return;
