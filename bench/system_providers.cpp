@@ -6,7 +6,6 @@
 #include "SystemDetectionProviders.h"
 #include "XvfbDesktop.h"
 #include "detection/DetectionRules.h"
-
 #include "detection/SystemDeviceUsage.h"
 
 #include <QCoreApplication>
@@ -102,19 +101,34 @@ int main(int argc, char* argv[])
     }
     // A desktop's worth of applications, two of them players that the video probe asks over MPRIS.
     const QStringList classes{
-        u"firefox-esr.Firefox-esr"_s, u"code.Code"_s,         u"vlc.vlc"_s,           u"mpv.mpv"_s,
-        u"slack.Slack"_s,             u"gnome-terminal.Gnome-terminal"_s, u"nautilus.Org.gnome.Nautilus"_s,
-        u"evince.Evince"_s,           u"gimp.Gimp"_s,         u"libreoffice.libreoffice-writer"_s,
-        u"thunderbird.Thunderbird"_s, u"kate.kate"_s,         u"keepassxc.KeePassXC"_s,
-        u"telegram.TelegramDesktop"_s, u"spotify.Spotify"_s,  u"steam.Steam"_s,
-        u"inkscape.Inkscape"_s,       u"obs.obs"_s,           u"zoom.zoom"_s,         u"xterm.XTerm"_s,
+        u"firefox-esr.Firefox-esr"_s,
+        u"code.Code"_s,
+        u"vlc.vlc"_s,
+        u"mpv.mpv"_s,
+        u"slack.Slack"_s,
+        u"gnome-terminal.Gnome-terminal"_s,
+        u"nautilus.Org.gnome.Nautilus"_s,
+        u"evince.Evince"_s,
+        u"gimp.Gimp"_s,
+        u"libreoffice.libreoffice-writer"_s,
+        u"thunderbird.Thunderbird"_s,
+        u"kate.kate"_s,
+        u"keepassxc.KeePassXC"_s,
+        u"telegram.TelegramDesktop"_s,
+        u"spotify.Spotify"_s,
+        u"steam.Steam"_s,
+        u"inkscape.Inkscape"_s,
+        u"obs.obs"_s,
+        u"zoom.zoom"_s,
+        u"xterm.XTerm"_s,
     };
     quint32 lastWindow = 0;
     for (qsizetype i = 0; i < classes.size(); ++i) {
         const QString geometry = u"%1x%2+%3+%4"_s.arg(600 + 20 * i).arg(400 + 10 * i).arg(30 * i).arg(20 * i);
-        if (!desktop.openWindow(QStringLiteral(VELTO_X11_TEST_WINDOW),
-                                {u"--class"_s, classes[i], u"--title"_s, u"Window %1"_s.arg(i), u"--geometry"_s, geometry},
-                                &lastWindow)) {
+        if (!desktop.openWindow(
+                QStringLiteral(VELTO_X11_TEST_WINDOW),
+                {u"--class"_s, classes[i], u"--title"_s, u"Window %1"_s.arg(i), u"--geometry"_s, geometry},
+                &lastWindow)) {
             std::fprintf(stderr, "bench_system_providers: a test window did not open\n");
             return 1;
         }
@@ -130,13 +144,12 @@ int main(int argc, char* argv[])
     serverEnvironment.insert(u"HOME"_s, runtime.path());
     serverEnvironment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
     const QString pulseSocket = runtime.filePath(u"pulse-native"_s);
-    auto pulse = startServer(u"pulseaudio"_s,
-                             {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--disable-shm=yes"_s,
-                              u"--use-pid-file=no"_s, u"--system=no"_s, u"-L"_s,
-                              u"module-native-protocol-unix auth-anonymous=1 socket="_s + pulseSocket, u"-L"_s,
-                              u"module-null-source source_name=bench_mic"_s, u"-L"_s,
-                              u"module-null-sink sink_name=bench_out"_s},
-                             serverEnvironment, pulseSocket);
+    auto pulse = startServer(
+        u"pulseaudio"_s,
+        {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--disable-shm=yes"_s, u"--use-pid-file=no"_s,
+         u"--system=no"_s, u"-L"_s, u"module-native-protocol-unix auth-anonymous=1 socket="_s + pulseSocket, u"-L"_s,
+         u"module-null-source source_name=bench_mic"_s, u"-L"_s, u"module-null-sink sink_name=bench_out"_s},
+        serverEnvironment, pulseSocket);
     QFile config(runtime.filePath(u"pipewire.conf"_s));
     if (config.open(QIODevice::WriteOnly)) {
         config.write("context.properties = { core.daemon = true core.name = pipewire-0 support.dbus = false }\n"
@@ -145,8 +158,8 @@ int main(int argc, char* argv[])
                      " { name = libpipewire-module-access } ]\n");
         config.close();
     }
-    auto pipewire = startServer(u"pipewire"_s, {u"-c"_s, config.fileName()}, serverEnvironment,
-                                runtime.filePath(u"pipewire-0"_s));
+    auto pipewire =
+        startServer(u"pipewire"_s, {u"-c"_s, config.fileName()}, serverEnvironment, runtime.filePath(u"pipewire-0"_s));
     if (pulse)
         qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(pulseSocket));
     if (pipewire)

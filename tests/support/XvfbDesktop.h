@@ -3,6 +3,7 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QString>
 #include <QThread>
@@ -25,30 +26,29 @@ public:
 
     bool start(bool withWindowManager = true, const QString& screen = QStringLiteral("1920x1080x24"))
     {
-        // The server picks a free display number itself and tells it on stdout, so parallel tests never meet.
-        auto server = std::make_unique<QProcess>();
-        server->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        server->start(QStandardPaths::findExecutable(QStringLiteral("Xvfb")),
-                      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
-                       QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"), screen});
-        if (!server->waitForStarted(3000))
-            return false;
-        const QDeadlineTimer deadline(10000);
-        while (!server->canReadLine() && !deadline.hasExpired() && server->state() == QProcess::Running)
-            server->waitForReadyRead(100);
-        if (!server->canReadLine()) {
-            server->kill();
-            server->waitForFinished();
-            return false;
+        // A random number in a high range, taken only when no server answers there: clients try the abstract
+        // socket first, which other sandboxes on the same host may share, so a low number can lead to someone
+        // else's server.
+        const QString xvfb = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
+        for (int attempt = 0; attempt < 20 && m_display.isEmpty(); ++attempt) {
+            const int number = 300 + int(QRandomGenerator::global()->bounded(600));
+            const QString display = QStringLiteral(":%1").arg(number);
+            if (QFile::exists(QStringLiteral("/tmp/.X%1-lock").arg(number)) || answers(display.toLocal8Bit()))
+                continue;
+            auto server = std::make_unique<QProcess>();
+            server->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            server->start(xvfb, {display, QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-screen"),
+                                 QStringLiteral("0"), screen});
+            if (!server->waitForStarted(3000))
+                continue;
+            if (!waitForServer(display.toLocal8Bit(), *server)) {
+                server->kill();
+                server->waitForFinished();
+                continue;
+            }
+            m_server = std::move(server);
+            m_display = display;
         }
-        const QString display = u':' + QString::fromLatin1(server->readLine().trimmed());
-        if (!waitForServer(display.toLocal8Bit(), *server)) {
-            server->kill();
-            server->waitForFinished();
-            return false;
-        }
-        m_server = std::move(server);
-        m_display = display;
         if (m_display.isEmpty())
             return false;
         if (withWindowManager) {
@@ -141,15 +141,23 @@ public:
     }
 
 private:
+    static bool answers(const QByteArray& display)
+    {
+        xcb_connection_t* c = xcb_connect(display.constData(), nullptr);
+        const bool up = xcb_connection_has_error(c) == 0;
+        xcb_disconnect(c);
+        return up;
+    }
+
     static bool waitForServer(const QByteArray& display, const QProcess& server)
     {
         const QDeadlineTimer deadline(5000);
         while (!deadline.hasExpired() && server.state() == QProcess::Running) {
-            xcb_connection_t* c = xcb_connect(display.constData(), nullptr);
-            const bool up = xcb_connection_has_error(c) == 0;
-            xcb_disconnect(c);
-            if (up)
-                return true;
+            // Our server is up once it answers and is still running (a server that lost the race exits).
+            if (answers(display)) {
+                QThread::msleep(50);
+                return server.state() == QProcess::Running;
+            }
             QThread::msleep(20);
         }
         return false;

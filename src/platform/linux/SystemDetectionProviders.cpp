@@ -7,6 +7,14 @@
 
 namespace velto {
 
+namespace {
+bool isWaylandSession()
+{
+    return qEnvironmentVariable("XDG_SESSION_TYPE") == QStringLiteral("wayland") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+} // namespace
+
 DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryIndex> desktopEntries)
 {
     if (!desktopEntries)
@@ -20,7 +28,8 @@ DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryInde
     providers.workspace = std::make_unique<SystemWorkspace>(x11, identities, memo);
     providers.windowList = std::make_unique<SystemWindowList>(x11);
     providers.screen = std::make_unique<SystemScreen>(x11);
-    providers.idleTime = std::make_unique<SystemIdleTime>(x11, bus);
+    providers.idleTime = std::make_unique<SystemIdleTime>(
+        x11, bus, isWaylandSession() ? SystemIdleTime::Source::BusFirst : SystemIdleTime::Source::X11First);
     providers.camera = std::make_unique<SystemCameraUsage>();
     providers.microphone = std::make_unique<SystemMicrophoneUsage>();
     providers.videoPlayback = std::make_unique<SystemVideoPlayback>(bus);

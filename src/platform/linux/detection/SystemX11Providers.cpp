@@ -21,6 +21,13 @@ QList<AppSnapshot> SystemWorkspace::runningApplications() const
     const auto session = m_x11->session(m_log);
     if (!session)
         return {};
+    {
+        QMutexLocker lock(&m_refreshMutex);
+        if (m_nextRefresh.hasExpired()) {
+            m_identities->desktopEntries().refreshIfChanged();
+            m_nextRefresh.setRemainingTime(desktopEntryRefreshInterval);
+        }
+    }
     const X11Queries::Clients clients = X11Queries::clients(*session);
     QList<AppSnapshot> applications;
     QHash<qint32, WindowClassMemo::Classes> classes;
@@ -76,19 +83,33 @@ QRectF SystemScreen::mainScreenFrame() const
     return X11Queries::primaryScreenFrame(*session);
 }
 
-SystemIdleTime::SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus)
+SystemIdleTime::SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus, Source order)
     : m_x11(std::move(x11))
     , m_bus(std::move(sessionBus))
+    , m_order(order)
 {}
 
 double SystemIdleTime::secondsSinceLastInput() const
 {
-    if (const auto session = m_x11->session(m_log)) {
-        if (const auto milliseconds = X11Queries::millisecondsSinceInput(*session))
-            return *milliseconds / 1000.0;
-        m_log.warn(u"x11-screensaver"_s, u"The X server has no screen-saver extension; asking D-Bus for idle time"_s);
+    if (m_order == Source::BusFirst) {
+        if (const auto seconds = busIdleSeconds())
+            return *seconds;
+        return x11IdleSeconds().value_or(0.0);
     }
+    if (const auto seconds = x11IdleSeconds())
+        return *seconds;
     return busIdleSeconds().value_or(0.0);
+}
+
+std::optional<double> SystemIdleTime::x11IdleSeconds() const
+{
+    const auto session = m_x11->session(m_log);
+    if (!session)
+        return std::nullopt;
+    if (const auto milliseconds = X11Queries::millisecondsSinceInput(*session))
+        return *milliseconds / 1000.0;
+    m_log.warn(u"x11-screensaver"_s, u"The X server has no screen-saver extension"_s);
+    return std::nullopt;
 }
 
 std::optional<double> SystemIdleTime::busIdleSeconds() const

@@ -10,6 +10,7 @@
 #include "detection/WorkspaceProviding.h"
 
 #include <QDBusConnection>
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QMutex>
 
@@ -50,10 +51,16 @@ public:
 
     [[nodiscard]] QList<AppSnapshot> runningApplications() const override;
 
+    // How often, in milliseconds, the installed applications are looked at again (a few stat calls).
+    static constexpr int desktopEntryRefreshInterval = 10000;
+
 private:
     std::shared_ptr<X11Link> m_x11;
     std::shared_ptr<AppIdentityResolver> m_identities;
     std::shared_ptr<WindowClassMemo> m_memo;
+    // Applications installed while we run get their names at the next look, a few seconds later.
+    mutable QMutex m_refreshMutex;
+    mutable QDeadlineTimer m_nextRefresh{desktopEntryRefreshInterval};
     LogOnce m_log;
 };
 
@@ -85,9 +92,11 @@ private:
 
 // Idle time from the X server's screen-saver extension; without X, from the desktop's D-Bus idle monitor
 // (GNOME's Mutter IdleMonitor, else org.freedesktop.ScreenSaver's GetSessionIdleTime). 0 when nothing answers.
+// In a Wayland session the bus is asked first: Xwayland only sees input that goes to X clients.
 class SystemIdleTime final : public IdleTimeProviding {
 public:
-    SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus);
+    enum class Source { X11First, BusFirst };
+    SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus, Source order = Source::X11First);
 
     [[nodiscard]] double secondsSinceLastInput() const override;
 
@@ -96,8 +105,11 @@ public:
 private:
     [[nodiscard]] std::optional<double> busIdleSeconds() const;
 
+    [[nodiscard]] std::optional<double> x11IdleSeconds() const;
+
     std::shared_ptr<X11Link> m_x11;
     QDBusConnection m_bus;
+    Source m_order = Source::X11First;
     LogOnce m_log;
 };
 
