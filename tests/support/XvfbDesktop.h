@@ -8,6 +8,8 @@
 #include <QString>
 #include <QThread>
 
+#include <algorithm>
+#include <cstring>
 #include <memory>
 #include <vector>
 #include <xcb/xcb.h>
@@ -163,7 +165,31 @@ private:
         return false;
     }
 
-    // The window manager is ready once it has announced itself on the root window.
+    static xcb_atom_t atom(xcb_connection_t* c, const char* name)
+    {
+        auto* reply = xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, uint16_t(std::strlen(name)), name), nullptr);
+        const xcb_atom_t result = reply ? reply->atom : XCB_ATOM_NONE;
+        std::free(reply);
+        return result;
+    }
+
+    static bool listContains(xcb_connection_t* c, xcb_window_t root, xcb_atom_t property, xcb_window_t window)
+    {
+        auto* reply =
+            xcb_get_property_reply(c, xcb_get_property(c, 0, root, property, XCB_ATOM_WINDOW, 0, 4096), nullptr);
+        bool found = false;
+        if (reply) {
+            const auto* windows = static_cast<const xcb_window_t*>(xcb_get_property_value(reply));
+            const int count = xcb_get_property_value_length(reply) / 4;
+            found = window == XCB_WINDOW_NONE ? count >= 0 && reply->type != XCB_NONE
+                                              : std::find(windows, windows + count, window) != windows + count;
+        }
+        std::free(reply);
+        return found;
+    }
+
+    // The window manager is ready once it manages a window: announcing itself on the root window comes
+    // earlier in its start-up, and windows mapped in between may be missed.
     bool waitForWindowManager() const
     {
         xcb_connection_t* c = xcb_connect(m_display.toLocal8Bit().constData(), nullptr);
@@ -171,20 +197,37 @@ private:
             xcb_disconnect(c);
             return false;
         }
-        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
-        const char name[] = "_NET_SUPPORTING_WM_CHECK";
-        auto* atomReply = xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, sizeof name - 1, name), nullptr);
-        const xcb_atom_t check = atomReply ? atomReply->atom : XCB_ATOM_NONE;
-        std::free(atomReply);
+        xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(c)).data;
+        const xcb_atom_t clientList = atom(c, "_NET_CLIENT_LIST");
+        const xcb_atom_t check = atom(c, "_NET_SUPPORTING_WM_CHECK");
         bool ready = false;
-        const QDeadlineTimer deadline(5000);
+        QDeadlineTimer deadline(10000);
+        while (!listContains(c, screen->root, check, XCB_WINDOW_NONE) && !deadline.hasExpired())
+            QThread::msleep(20);
         while (!ready && !deadline.hasExpired()) {
-            auto* reply =
-                xcb_get_property_reply(c, xcb_get_property(c, 0, root, check, XCB_ATOM_WINDOW, 0, 1), nullptr);
-            ready = reply && xcb_get_property_value_length(reply) == 4;
+            const xcb_window_t probe = xcb_generate_id(c);
+            xcb_create_window(c, XCB_COPY_FROM_PARENT, probe, screen->root, 0, 0, 10, 10, 0,
+                              XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, 0, nullptr);
+            xcb_map_window(c, probe);
+            xcb_flush(c);
+            const QDeadlineTimer probeDeadline(1000);
+            while (!ready && !probeDeadline.hasExpired()) {
+                ready = listContains(c, screen->root, clientList, probe);
+                if (!ready)
+                    QThread::msleep(20);
+            }
+            xcb_destroy_window(c, probe);
+            xcb_flush(c);
+        }
+        // Wait until the probe is gone from the list again, so tests start with an empty desktop.
+        while (ready && !deadline.hasExpired()) {
+            auto* reply = xcb_get_property_reply(
+                c, xcb_get_property(c, 0, screen->root, clientList, XCB_ATOM_WINDOW, 0, 4096), nullptr);
+            const bool empty = !reply || xcb_get_property_value_length(reply) == 0;
             std::free(reply);
-            if (!ready)
-                QThread::msleep(20);
+            if (empty)
+                break;
+            QThread::msleep(20);
         }
         xcb_disconnect(c);
         return ready;

@@ -25,11 +25,13 @@ DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryInde
     const QDBusConnection bus = QDBusConnection::sessionBus();
 
     DetectionProviders providers;
-    providers.workspace = std::make_unique<SystemWorkspace>(x11, identities, memo);
+    const bool wayland = isWaylandSession();
+    providers.workspace = std::make_unique<SystemWorkspace>(
+        x11, identities, memo, wayland ? SystemWorkspace::Scope::WindowsAndProcesses : SystemWorkspace::Scope::Windows);
     providers.windowList = std::make_unique<SystemWindowList>(x11);
     providers.screen = std::make_unique<SystemScreen>(x11);
     providers.idleTime = std::make_unique<SystemIdleTime>(
-        x11, bus, isWaylandSession() ? SystemIdleTime::Source::BusFirst : SystemIdleTime::Source::X11First);
+        x11, bus, wayland ? SystemIdleTime::Source::BusFirst : SystemIdleTime::Source::X11First);
     providers.camera = std::make_unique<SystemCameraUsage>();
     providers.microphone = std::make_unique<SystemMicrophoneUsage>();
     providers.videoPlayback = std::make_unique<SystemVideoPlayback>(bus);

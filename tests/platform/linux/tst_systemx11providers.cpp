@@ -89,6 +89,7 @@ private Q_SLOTS:
     void fullscreenGameWindowsCoverTheScreenAtTheNormalLayer();
     void idleTimeIsResetByInput();
     void keyPressesAreHeardOffTheMainThread();
+    void withoutWindowsApplicationsComeFromTheProcessTable();
     void withoutAServerEveryAnswerIsNeutralAndReportedOnce();
     void aServerThatGoesAwayLeavesNeutralAnswers();
 
@@ -302,6 +303,39 @@ void TestSystemX11Providers::keyPressesAreHeardOffTheMainThread()
     QVERIFY(xdotool({u"mousemove"_s, u"300"_s, u"300"_s, u"click"_s, u"1"_s}));
     QVERIFY(xdotool({u"key"_s, u"b"_s}));
     QTRY_COMPARE(keys->keyDownCount(), 5u);
+}
+
+void TestSystemX11Providers::withoutWindowsApplicationsComeFromTheProcessTable()
+{
+    QTemporaryDir proc;
+    const auto process = [&](int pid, const QString& exe, const QByteArray& cgroup = {}) {
+        QVERIFY(QDir().mkpath(proc.filePath(QString::number(pid))));
+        QVERIFY(QFile::link(exe, proc.filePath(u"%1/exe"_s.arg(pid))));
+        writeFile(proc.filePath(u"%1/cgroup"_s.arg(pid)), cgroup);
+    };
+    process(310, u"/usr/bin/example-editor"_s);
+    process(120, u"/usr/bin/example-editor"_s); // a second process of the same application
+    process(200, u"/app/bin/vlc"_s, "0::/user.slice/app.slice/app-flatpak-org.videolan.VLC-4410.scope\n");
+    process(250, u"/usr/bin/bash"_s);
+    auto identities = std::make_shared<AppIdentityResolver>(m_entries, ProcessTable(proc.path()));
+
+    const SystemWorkspace noDisplay(std::make_shared<X11Link>(":199"_ba), identities);
+    QCOMPARE(noDisplay.runningApplications(),
+             (QList<AppSnapshot>{{u"org.example.Editor"_s, false, 120}, {u"org.videolan.VLC"_s, false, 200}}));
+
+    // In a Wayland session the X clients come first, then the applications not among them.
+    const SystemWorkspace wayland(m_link, identities, std::make_shared<WindowClassMemo>(),
+                                  SystemWorkspace::Scope::WindowsAndProcesses);
+    quint32 id = 0;
+    QProcess* editor = open({u"--class"_s, u"example-editor.ExampleEditor"_s}, &id);
+    QVERIFY(editor);
+    QVERIFY(xdotool({u"windowactivate"_s, u"--sync"_s, QString::number(id)}));
+    QTRY_COMPARE(wayland.runningApplications(),
+                 (QList<AppSnapshot>{{u"org.example.Editor"_s, true, static_cast<qint32>(editor->processId())},
+                                     {u"org.videolan.VLC"_s, false, 200}}));
+    // X11 sessions list windows only.
+    const SystemWorkspace x11(m_link, identities);
+    QCOMPARE(x11.runningApplications().size(), 1);
 }
 
 void TestSystemX11Providers::withoutAServerEveryAnswerIsNeutralAndReportedOnce()

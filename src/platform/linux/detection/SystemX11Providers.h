@@ -44,10 +44,14 @@ private:
 
 // The applications with windows in the X session (EWMH client list), one per process in the window
 // manager's order; the one owning the active window is active. Windows that name no process are left out.
+// Without an X server, and in Wayland sessions after the X clients, the installed applications running as
+// the user's processes follow, none of them active (Wayland tells no one which window is in front).
 class SystemWorkspace final : public WorkspaceProviding {
 public:
+    enum class Scope { Windows, WindowsAndProcesses };
     SystemWorkspace(std::shared_ptr<X11Link> x11, std::shared_ptr<AppIdentityResolver> identities,
-                    std::shared_ptr<WindowClassMemo> memo = std::make_shared<WindowClassMemo>());
+                    std::shared_ptr<WindowClassMemo> memo = std::make_shared<WindowClassMemo>(),
+                    Scope scope = Scope::Windows);
 
     [[nodiscard]] QList<AppSnapshot> runningApplications() const override;
 
@@ -55,9 +59,12 @@ public:
     static constexpr int desktopEntryRefreshInterval = 10000;
 
 private:
+    void appendInstalledApplications(QList<AppSnapshot>& applications) const;
+
     std::shared_ptr<X11Link> m_x11;
     std::shared_ptr<AppIdentityResolver> m_identities;
     std::shared_ptr<WindowClassMemo> m_memo;
+    Scope m_scope = Scope::Windows;
     // Applications installed while we run get their names at the next look, a few seconds later.
     mutable QMutex m_refreshMutex;
     mutable QDeadlineTimer m_nextRefresh{desktopEntryRefreshInterval};
