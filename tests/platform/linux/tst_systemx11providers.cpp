@@ -1,6 +1,7 @@
 // The X11 providers against a real X server: a private Xvfb with openbox managing windows that test clients
 // open, xdotool acting as the user (activating, renaming, resizing, minimising, typing).
 #include "MessageCapture.h"
+#include "SystemDetectionProviders.h"
 #include "XvfbDesktop.h"
 #include "detection/AppIdentityResolver.h"
 #include "detection/DesktopEntryIndex.h"
@@ -90,6 +91,8 @@ private Q_SLOTS:
     void idleTimeIsResetByInput();
     void keyPressesAreHeardOffTheMainThread();
     void withoutWindowsApplicationsComeFromTheProcessTable();
+    void steamGamesAreGamesWhateverTheirDesktopFile();
+    void theFactoryAnswersForThisSession();
     void withoutAServerEveryAnswerIsNeutralAndReportedOnce();
     void aServerThatGoesAwayLeavesNeutralAnswers();
 
@@ -336,6 +339,55 @@ void TestSystemX11Providers::withoutWindowsApplicationsComeFromTheProcessTable()
     // X11 sessions list windows only.
     const SystemWorkspace x11(m_link, identities);
     QCOMPARE(x11.runningApplications().size(), 1);
+}
+
+void TestSystemX11Providers::steamGamesAreGamesWhateverTheirDesktopFile()
+{
+    QTemporaryDir proc;
+    for (const QString& pid : {u"700"_s, u"701"_s, u"702"_s})
+        QVERIFY(QDir().mkpath(proc.filePath(pid)));
+    writeFile(proc.filePath(u"700/environ"_s), QByteArray("HOME=/home/u\0SteamAppId=570\0", 29));
+    writeFile(proc.filePath(u"701/environ"_s), QByteArray("SteamAppId=0\0", 13));
+    QVERIFY(QFile::link(u"/usr/bin/example-editor"_s, proc.filePath(u"701/exe"_s)));
+    writeFile(proc.filePath(u"702/environ"_s), QByteArray("SteamAppId=\0", 12));
+    auto identities = std::make_shared<AppIdentityResolver>(m_entries, ProcessTable(proc.path()));
+    const SystemAppCategory categories(identities, std::make_shared<WindowClassMemo>());
+    QCOMPARE(categories.category(700), u"Game;"_s);
+    // The Steam client itself runs with an app ID of 0: it is what its desktop file says.
+    QCOMPARE(categories.category(701), u"Development;IDE;"_s);
+    QCOMPARE(categories.category(702), std::nullopt);
+    QCOMPARE(categories.category(703), std::nullopt);
+    QCOMPARE(categories.category(0), std::nullopt);
+}
+
+void TestSystemX11Providers::theFactoryAnswersForThisSession()
+{
+    const QByteArray display = qgetenv("DISPLAY");
+    qputenv("DISPLAY", m_desktop.display().toLocal8Bit());
+    {
+        const DetectionProviders providers = makeSystemDetectionProviders(m_entries);
+        QVERIFY(providers.isComplete());
+        const auto keys = makeSystemKeyDownTime();
+        QVERIFY(dynamic_cast<const X11KeyDownTime*>(keys.get()));
+        QProcess* window = open({u"--class"_s, u"example-editor.ExampleEditor"_s});
+        QVERIFY(window);
+        QTRY_COMPARE(providers.workspace->runningApplications().size(), 1);
+        QCOMPARE(providers.screen->mainScreenFrame(), QRectF(0, 0, 1920, 1080));
+    }
+    qunsetenv("DISPLAY");
+    {
+        MessageCapture capture;
+        const DetectionProviders providers = makeSystemDetectionProviders(m_entries);
+        QVERIFY(providers.isComplete());
+        const auto keys = makeSystemKeyDownTime();
+        QVERIFY(keys);
+        QCOMPARE(keys->secondsSinceLastKeyDown(), std::nullopt);
+        QVERIFY(providers.windowList->onScreenWindows().isEmpty());
+        QCOMPARE(providers.screen->mainScreenFrame(), QRectF());
+        // Without a display nothing is tried, so nothing fails.
+        QVERIFY(capture.texts().filter(u"X server"_s).isEmpty());
+    }
+    qputenv("DISPLAY", display);
 }
 
 void TestSystemX11Providers::withoutAServerEveryAnswerIsNeutralAndReportedOnce()
