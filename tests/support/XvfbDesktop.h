@@ -39,8 +39,8 @@ public:
                 continue;
             auto server = std::make_unique<QProcess>();
             server->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            server->start(xvfb, {display, QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-screen"),
-                                 QStringLiteral("0"), screen});
+            server->start(xvfb, {display, QStringLiteral("-noreset"), QStringLiteral("-nolisten"),
+                                 QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"), screen});
             if (!server->waitForStarted(3000))
                 continue;
             if (!waitForServer(display.toLocal8Bit(), *server)) {

@@ -88,6 +88,8 @@ private Q_SLOTS:
     void minimisedAndResizedWindowsAreSeenAsTheyAre();
     void aRecordingTitleCountsOnlyForKnownApplications();
     void fullscreenGameWindowsCoverTheScreenAtTheNormalLayer();
+    void theMainScreenIsThePrimaryMonitor();
+    void windowsThatVanishMidQueryDropOutQuietly();
     void idleTimeIsResetByInput();
     void keyPressesAreHeardOffTheMainThread();
     void withoutWindowsApplicationsComeFromTheProcessTable();
@@ -272,6 +274,52 @@ void TestSystemX11Providers::fullscreenGameWindowsCoverTheScreenAtTheNormalLayer
     QTRY_COMPARE(workspace.runningApplications().size(), 1);
     QCOMPARE(workspace.runningApplications().first().bundleIdentifier, u"org.example.Shooter"_s);
     QCOMPARE(categories.category(static_cast<qint32>(game->processId())), u"Game;ActionGame;"_s);
+}
+
+void TestSystemX11Providers::theMainScreenIsThePrimaryMonitor()
+{
+    if (QStandardPaths::findExecutable(u"xrandr"_s).isEmpty())
+        QSKIP("xrandr is not installed");
+    // One wide screen split into two monitors, the right one primary, as a desk with two displays looks.
+    XvfbDesktop desk;
+    QVERIFY(desk.start(false, u"2560x800x24"_s));
+    QVERIFY(desk.run(u"xrandr"_s, {u"--setmonitor"_s, u"LEFT"_s, u"1280/338x800/211+0+0"_s, u"none"_s}));
+    QVERIFY(desk.run(u"xrandr"_s, {u"--setmonitor"_s, u"*RIGHT"_s, u"1280/338x800/211+1280+0"_s, u"none"_s}));
+    const SystemScreen screen(std::make_shared<X11Link>(desk.display().toLocal8Bit()));
+    QCOMPARE(screen.mainScreenFrame(), QRectF(1280, 0, 1280, 800));
+}
+
+void TestSystemX11Providers::windowsThatVanishMidQueryDropOutQuietly()
+{
+    SystemWorkspace workspace(m_link, m_identities, m_memo);
+    SystemWindowList windows(m_link);
+    QList<QProcess*> clients;
+    for (int i = 0; i < 12; ++i) {
+        QProcess* client = open({u"--class"_s, u"short%1.Short%1"_s.arg(i), u"--title"_s, u"Short-lived"_s});
+        QVERIFY(client);
+        clients.append(client);
+    }
+    QTRY_COMPARE(windows.onScreenWindows().size(), 12);
+
+    MessageCapture capture;
+    // Kill the clients while asking: their windows go away between the requests of one query.
+    for (QProcess* client : std::as_const(clients))
+        client->kill();
+    bool empty = false;
+    for (int pass = 0; pass < 2000 && !empty; ++pass) {
+        const QList<WindowDescriptor> listed = windows.onScreenWindows();
+        const QList<TitledWindow> titled = windows.titledWindows();
+        const QList<AppSnapshot> apps = workspace.runningApplications();
+        for (const WindowDescriptor& window : listed)
+            QVERIFY(window.ownerPID > 0 && !window.bounds.isEmpty());
+        for (const AppSnapshot& app : apps)
+            QVERIFY(app.processIdentifier > 0);
+        empty = listed.isEmpty() && titled.isEmpty() && apps.isEmpty();
+        if (!empty)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+    }
+    QVERIFY(empty);
+    QVERIFY(capture.texts().isEmpty());
 }
 
 void TestSystemX11Providers::idleTimeIsResetByInput()
