@@ -187,6 +187,34 @@ int main(int argc, char* argv[])
     });
     std::printf("  passes that found activity: %d\n", busy);
 
+    // Where the time goes: each provider on its own.
+    const QList<AppSnapshot> running = providers.workspace->runningApplications();
+    const qint32 frontPid = DetectionRules::frontmostApplication(running).value_or(AppSnapshot{}).processIdentifier;
+    const int each = std::max(20, passes / 4);
+    std::printf("each provider alone (CPU median, wall median), %d calls:\n", each);
+    const auto one = [&](const char* name, auto call) {
+        std::vector<double> cpu;
+        std::vector<double> wall;
+        for (int i = 0; i < each; ++i) {
+            const double cpuStart = processCpuMilliseconds();
+            QElapsedTimer timer;
+            timer.start();
+            call();
+            wall.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+            cpu.push_back(processCpuMilliseconds() - cpuStart);
+        }
+        std::printf("  %-34s %.3f ms, %.3f ms\n", name, percentile(cpu, 0.5), percentile(wall, 0.5));
+    };
+    one("workspace (20 clients, identities)", [&] { (void)providers.workspace->runningApplications(); });
+    one("window list", [&] { (void)providers.windowList->onScreenWindows(); });
+    one("main screen", [&] { (void)providers.screen->mainScreenFrame(); });
+    one("idle time", [&] { (void)providers.idleTime->secondsSinceLastInput(); });
+    one("cameras (none attached)", [&] { (void)providers.camera->activeCameraIdentifiers(); });
+    one("microphones", [&] { (void)providers.microphone->activeMicrophoneIdentifiers(); });
+    one("video playback (vlc, over MPRIS)", [&] { (void)providers.videoPlayback->isPlaying(u"vlc"_s); });
+    one("screen recording (titles, PipeWire)", [&] { (void)providers.screenRecording->isScreenRecording(running); });
+    one("category of the frontmost", [&] { (void)providers.appCategory->category(frontPid); });
+
     // This machine has no camera, so the pass above never walks the process table for open devices. With one
     // attached (a fixture device tree here) it reads every descriptor of every process of the user.
     QTemporaryDir sys;
