@@ -31,7 +31,7 @@ DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryInde
     providers.windowList = std::make_unique<SystemWindowList>(x11);
     providers.screen = std::make_unique<SystemScreen>(x11);
     providers.idleTime = std::make_unique<SystemIdleTime>(
-        x11, bus, wayland ? SystemIdleTime::Source::BusFirst : SystemIdleTime::Source::X11First);
+        x11, bus, wayland ? SystemIdleTime::Source::BusOnly : SystemIdleTime::Source::X11First);
     providers.camera = std::make_unique<SystemCameraUsage>();
     providers.microphone = std::make_unique<SystemMicrophoneUsage>();
     providers.videoPlayback = std::make_unique<SystemVideoPlayback>(bus);

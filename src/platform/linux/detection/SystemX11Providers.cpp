@@ -117,11 +117,8 @@ SystemIdleTime::SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection ses
 
 double SystemIdleTime::secondsSinceLastInput() const
 {
-    if (m_order == Source::BusFirst) {
-        if (const auto seconds = busIdleSeconds())
-            return *seconds;
-        return x11IdleSeconds().value_or(0.0);
-    }
+    if (m_order == Source::BusOnly)
+        return busIdleSeconds().value_or(0.0);
     if (const auto seconds = x11IdleSeconds())
         return *seconds;
     return busIdleSeconds().value_or(0.0);

@@ -99,10 +99,11 @@ private:
 
 // Idle time from the X server's screen-saver extension; without X, from the desktop's D-Bus idle monitor
 // (GNOME's Mutter IdleMonitor, else org.freedesktop.ScreenSaver's GetSessionIdleTime). 0 when nothing answers.
-// In a Wayland session the bus is asked first: Xwayland only sees input that goes to X clients.
+// In a Wayland session only the bus is asked: Xwayland sees only the input that goes to X clients, and would
+// call a user idle who types into a Wayland window.
 class SystemIdleTime final : public IdleTimeProviding {
 public:
-    enum class Source { X11First, BusFirst };
+    enum class Source { X11First, BusOnly };
     SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus, Source order = Source::X11First);
 
     [[nodiscard]] double secondsSinceLastInput() const override;
