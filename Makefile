@@ -20,6 +20,7 @@ test-sanitize: build-sanitize
 # Measurements; they take a few minutes of real time.
 bench: build
 	$(BUILD_DIR)/bench/bench_detection_pass
+	dbus-run-session --config-file=tests/support/test-bus.conf -- $(BUILD_DIR)/bench/bench_system_providers
 	$(BUILD_DIR)/bench/bench_timer_drift
 	$(BUILD_DIR)/bench/bench_overlay_show
 	$(BUILD_DIR)/bench/bench_notification_show

@@ -3,10 +3,13 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QString>
 #include <QThread>
 
+#include <algorithm>
+#include <cstring>
 #include <memory>
 #include <vector>
 #include <xcb/xcb.h>
@@ -25,30 +28,29 @@ public:
 
     bool start(bool withWindowManager = true, const QString& screen = QStringLiteral("1920x1080x24"))
     {
-        // The server picks a free display number itself and tells it on stdout, so parallel tests never meet.
-        auto server = std::make_unique<QProcess>();
-        server->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        server->start(QStandardPaths::findExecutable(QStringLiteral("Xvfb")),
-                      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
-                       QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"), screen});
-        if (!server->waitForStarted(3000))
-            return false;
-        const QDeadlineTimer deadline(10000);
-        while (!server->canReadLine() && !deadline.hasExpired() && server->state() == QProcess::Running)
-            server->waitForReadyRead(100);
-        if (!server->canReadLine()) {
-            server->kill();
-            server->waitForFinished();
-            return false;
+        // A random number in a high range, taken only when no server answers there: clients try the abstract
+        // socket first, which other sandboxes on the same host may share, so a low number can lead to someone
+        // else's server.
+        const QString xvfb = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
+        for (int attempt = 0; attempt < 20 && m_display.isEmpty(); ++attempt) {
+            const int number = 300 + int(QRandomGenerator::global()->bounded(600));
+            const QString display = QStringLiteral(":%1").arg(number);
+            if (QFile::exists(QStringLiteral("/tmp/.X%1-lock").arg(number)) || answers(display.toLocal8Bit()))
+                continue;
+            auto server = std::make_unique<QProcess>();
+            server->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            server->start(xvfb, {display, QStringLiteral("-noreset"), QStringLiteral("-nolisten"),
+                                 QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"), screen});
+            if (!server->waitForStarted(3000))
+                continue;
+            if (!waitForServer(display.toLocal8Bit(), *server)) {
+                server->kill();
+                server->waitForFinished();
+                continue;
+            }
+            m_server = std::move(server);
+            m_display = display;
         }
-        const QString display = u':' + QString::fromLatin1(server->readLine().trimmed());
-        if (!waitForServer(display.toLocal8Bit(), *server)) {
-            server->kill();
-            server->waitForFinished();
-            return false;
-        }
-        m_server = std::move(server);
-        m_display = display;
         if (m_display.isEmpty())
             return false;
         if (withWindowManager) {
@@ -141,21 +143,53 @@ public:
     }
 
 private:
+    static bool answers(const QByteArray& display)
+    {
+        xcb_connection_t* c = xcb_connect(display.constData(), nullptr);
+        const bool up = xcb_connection_has_error(c) == 0;
+        xcb_disconnect(c);
+        return up;
+    }
+
     static bool waitForServer(const QByteArray& display, const QProcess& server)
     {
         const QDeadlineTimer deadline(5000);
         while (!deadline.hasExpired() && server.state() == QProcess::Running) {
-            xcb_connection_t* c = xcb_connect(display.constData(), nullptr);
-            const bool up = xcb_connection_has_error(c) == 0;
-            xcb_disconnect(c);
-            if (up)
-                return true;
+            // Our server is up once it answers and is still running (a server that lost the race exits).
+            if (answers(display)) {
+                QThread::msleep(50);
+                return server.state() == QProcess::Running;
+            }
             QThread::msleep(20);
         }
         return false;
     }
 
-    // The window manager is ready once it has announced itself on the root window.
+    static xcb_atom_t atom(xcb_connection_t* c, const char* name)
+    {
+        auto* reply = xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, uint16_t(std::strlen(name)), name), nullptr);
+        const xcb_atom_t result = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+        std::free(reply);
+        return result;
+    }
+
+    static bool listContains(xcb_connection_t* c, xcb_window_t root, xcb_atom_t property, xcb_window_t window)
+    {
+        auto* reply =
+            xcb_get_property_reply(c, xcb_get_property(c, 0, root, property, XCB_ATOM_WINDOW, 0, 4096), nullptr);
+        bool found = false;
+        if (reply) {
+            const auto* windows = static_cast<const xcb_window_t*>(xcb_get_property_value(reply));
+            const int count = xcb_get_property_value_length(reply) / 4;
+            found = window == XCB_WINDOW_NONE ? count >= 0 && reply->type != XCB_NONE
+                                              : std::find(windows, windows + count, window) != windows + count;
+        }
+        std::free(reply);
+        return found;
+    }
+
+    // The window manager is ready once it manages a window: announcing itself on the root window comes
+    // earlier in its start-up, and windows mapped in between may be missed.
     bool waitForWindowManager() const
     {
         xcb_connection_t* c = xcb_connect(m_display.toLocal8Bit().constData(), nullptr);
@@ -163,20 +197,37 @@ private:
             xcb_disconnect(c);
             return false;
         }
-        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
-        const char name[] = "_NET_SUPPORTING_WM_CHECK";
-        auto* atomReply = xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, sizeof name - 1, name), nullptr);
-        const xcb_atom_t check = atomReply ? atomReply->atom : XCB_ATOM_NONE;
-        std::free(atomReply);
+        xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(c)).data;
+        const xcb_atom_t clientList = atom(c, "_NET_CLIENT_LIST");
+        const xcb_atom_t check = atom(c, "_NET_SUPPORTING_WM_CHECK");
         bool ready = false;
-        const QDeadlineTimer deadline(5000);
+        QDeadlineTimer deadline(10000);
+        while (!listContains(c, screen->root, check, XCB_WINDOW_NONE) && !deadline.hasExpired())
+            QThread::msleep(20);
         while (!ready && !deadline.hasExpired()) {
-            auto* reply =
-                xcb_get_property_reply(c, xcb_get_property(c, 0, root, check, XCB_ATOM_WINDOW, 0, 1), nullptr);
-            ready = reply && xcb_get_property_value_length(reply) == 4;
+            const xcb_window_t probe = xcb_generate_id(c);
+            xcb_create_window(c, XCB_COPY_FROM_PARENT, probe, screen->root, 0, 0, 10, 10, 0,
+                              XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, 0, nullptr);
+            xcb_map_window(c, probe);
+            xcb_flush(c);
+            const QDeadlineTimer probeDeadline(1000);
+            while (!ready && !probeDeadline.hasExpired()) {
+                ready = listContains(c, screen->root, clientList, probe);
+                if (!ready)
+                    QThread::msleep(20);
+            }
+            xcb_destroy_window(c, probe);
+            xcb_flush(c);
+        }
+        // Wait until the probe is gone from the list again, so tests start with an empty desktop.
+        while (ready && !deadline.hasExpired()) {
+            auto* reply = xcb_get_property_reply(
+                c, xcb_get_property(c, 0, screen->root, clientList, XCB_ATOM_WINDOW, 0, 4096), nullptr);
+            const bool empty = !reply || xcb_get_property_value_length(reply) == 0;
             std::free(reply);
-            if (!ready)
-                QThread::msleep(20);
+            if (empty)
+                break;
+            QThread::msleep(20);
         }
         xcb_disconnect(c);
         return ready;

@@ -7,6 +7,14 @@
 
 namespace velto {
 
+namespace {
+bool isWaylandSession()
+{
+    return qEnvironmentVariable("XDG_SESSION_TYPE") == QStringLiteral("wayland") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+} // namespace
+
 DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryIndex> desktopEntries)
 {
     if (!desktopEntries)
@@ -17,10 +25,13 @@ DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryInde
     const QDBusConnection bus = QDBusConnection::sessionBus();
 
     DetectionProviders providers;
-    providers.workspace = std::make_unique<SystemWorkspace>(x11, identities, memo);
+    const bool wayland = isWaylandSession();
+    providers.workspace = std::make_unique<SystemWorkspace>(
+        x11, identities, memo, wayland ? SystemWorkspace::Scope::WindowsAndProcesses : SystemWorkspace::Scope::Windows);
     providers.windowList = std::make_unique<SystemWindowList>(x11);
     providers.screen = std::make_unique<SystemScreen>(x11);
-    providers.idleTime = std::make_unique<SystemIdleTime>(x11, bus);
+    providers.idleTime = std::make_unique<SystemIdleTime>(
+        x11, bus, wayland ? SystemIdleTime::Source::BusOnly : SystemIdleTime::Source::X11First);
     providers.camera = std::make_unique<SystemCameraUsage>();
     providers.microphone = std::make_unique<SystemMicrophoneUsage>();
     providers.videoPlayback = std::make_unique<SystemVideoPlayback>(bus);

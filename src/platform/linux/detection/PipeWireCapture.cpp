@@ -50,7 +50,14 @@ public:
     explicit RegistryVisit(const QString& remoteName)
     {
         static std::once_flag initialised;
-        std::call_once(initialised, [] { pw_init(nullptr, nullptr); });
+        std::call_once(initialised, [] {
+            pw_init(nullptr, nullptr);
+            // The library warns on stderr about every short-lived context (no modules from configuration, no
+            // real-time scheduling); one visit per pass would flood it. Errors still show, and the user's
+            // PIPEWIRE_DEBUG still wins.
+            if (qEnvironmentVariableIsEmpty("PIPEWIRE_DEBUG"))
+                pw_log_set_level(SPA_LOG_LEVEL_ERROR);
+        });
         m_loop = pw_loop_new(nullptr);
         if (m_loop == nullptr)
             return;
@@ -97,12 +104,16 @@ public:
         }();
         spa_zero(m_coreListener);
         spa_zero(m_registryListener);
+        // The library's method macros cast in C style.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wold-style-cast"
         pw_core_add_listener(m_core, &m_coreListener, &coreEvents, this);
         m_registry = pw_core_get_registry(m_core, PW_VERSION_REGISTRY, 0);
         if (m_registry == nullptr)
             return std::nullopt;
         pw_registry_add_listener(m_registry, &m_registryListener, &registryEvents, this);
         m_syncSeq = pw_core_sync(m_core, PW_ID_CORE, 0);
+#pragma GCC diagnostic pop
 
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMilliseconds);
         pw_loop_enter(m_loop);

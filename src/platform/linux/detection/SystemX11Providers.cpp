@@ -10,34 +10,67 @@ using namespace Qt::Literals::StringLiterals;
 namespace velto {
 
 SystemWorkspace::SystemWorkspace(std::shared_ptr<X11Link> x11, std::shared_ptr<AppIdentityResolver> identities,
-                                 std::shared_ptr<WindowClassMemo> memo)
+                                 std::shared_ptr<WindowClassMemo> memo, Scope scope)
     : m_x11(std::move(x11))
     , m_identities(std::move(identities))
     , m_memo(std::move(memo))
+    , m_scope(scope)
 {}
 
 QList<AppSnapshot> SystemWorkspace::runningApplications() const
 {
-    const auto session = m_x11->session(m_log);
-    if (!session)
-        return {};
-    const X11Queries::Clients clients = X11Queries::clients(*session);
+    {
+        QMutexLocker lock(&m_refreshMutex);
+        if (m_nextRefresh.hasExpired()) {
+            m_identities->desktopEntries().refreshIfChanged();
+            m_nextRefresh.setRemainingTime(desktopEntryRefreshInterval);
+        }
+    }
     QList<AppSnapshot> applications;
     QHash<qint32, WindowClassMemo::Classes> classes;
-    for (const X11Queries::Client& client : clients.clients) {
-        if (client.pid <= 0 || classes.contains(client.pid))
-            continue;
-        classes.insert(client.pid, {client.wmInstance, client.wmClass});
-        AppSnapshot app;
-        app.processIdentifier = client.pid;
-        app.isActive = client.pid == clients.activePid;
-        app.bundleIdentifier = m_identities->identity(client.pid, client.wmInstance, client.wmClass);
-        applications.append(app);
+    const auto session = m_x11->session(m_log);
+    if (session) {
+        const X11Queries::Clients clients = X11Queries::clients(*session);
+        for (const X11Queries::Client& client : clients.clients) {
+            if (client.pid <= 0 || classes.contains(client.pid))
+                continue;
+            classes.insert(client.pid, {client.wmInstance, client.wmClass});
+            AppSnapshot app;
+            app.processIdentifier = client.pid;
+            app.isActive = client.pid == clients.activePid;
+            app.bundleIdentifier = m_identities->identity(client.pid, client.wmInstance, client.wmClass);
+            applications.append(app);
+        }
     }
     m_memo->replace(std::move(classes));
+    if (!session || m_scope == Scope::WindowsAndProcesses)
+        appendInstalledApplications(applications);
     return applications;
 }
 
+void SystemWorkspace::appendInstalledApplications(QList<AppSnapshot>& applications) const
+{
+    // Without windows to go by, an application is a process of the user that is a Flatpak app or runs the
+    // program an installed desktop file starts; one entry per application, its oldest process. None is
+    // known to be in front.
+    QSet<QString> known;
+    for (const AppSnapshot& app : std::as_const(applications)) {
+        if (app.bundleIdentifier)
+            known.insert(*app.bundleIdentifier);
+    }
+    const ProcessTable& processes = m_identities->processes();
+    for (const qint32 pid : processes.processesOfUser()) {
+        std::optional<QString> identity = processes.flatpakAppId(pid);
+        if (!identity) {
+            if (const auto entry = m_identities->desktopEntries().entryForExecutable(processes.executableName(pid)))
+                identity = entry->id;
+        }
+        if (!identity || known.contains(*identity))
+            continue;
+        known.insert(*identity);
+        applications.append(AppSnapshot{identity, false, pid});
+    }
+}
 SystemWindowList::SystemWindowList(std::shared_ptr<X11Link> x11)
     : m_x11(std::move(x11))
 {}
@@ -76,19 +109,30 @@ QRectF SystemScreen::mainScreenFrame() const
     return X11Queries::primaryScreenFrame(*session);
 }
 
-SystemIdleTime::SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus)
+SystemIdleTime::SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus, Source order)
     : m_x11(std::move(x11))
     , m_bus(std::move(sessionBus))
+    , m_order(order)
 {}
 
 double SystemIdleTime::secondsSinceLastInput() const
 {
-    if (const auto session = m_x11->session(m_log)) {
-        if (const auto milliseconds = X11Queries::millisecondsSinceInput(*session))
-            return *milliseconds / 1000.0;
-        m_log.warn(u"x11-screensaver"_s, u"The X server has no screen-saver extension; asking D-Bus for idle time"_s);
-    }
+    if (m_order == Source::BusOnly)
+        return busIdleSeconds().value_or(0.0);
+    if (const auto seconds = x11IdleSeconds())
+        return *seconds;
     return busIdleSeconds().value_or(0.0);
+}
+
+std::optional<double> SystemIdleTime::x11IdleSeconds() const
+{
+    const auto session = m_x11->session(m_log);
+    if (!session)
+        return std::nullopt;
+    if (const auto milliseconds = X11Queries::millisecondsSinceInput(*session))
+        return *milliseconds / 1000.0;
+    m_log.warn(u"x11-screensaver"_s, u"The X server has no screen-saver extension"_s);
+    return std::nullopt;
 }
 
 std::optional<double> SystemIdleTime::busIdleSeconds() const

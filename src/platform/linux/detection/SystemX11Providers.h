@@ -10,6 +10,7 @@
 #include "detection/WorkspaceProviding.h"
 
 #include <QDBusConnection>
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QMutex>
 
@@ -43,17 +44,30 @@ private:
 
 // The applications with windows in the X session (EWMH client list), one per process in the window
 // manager's order; the one owning the active window is active. Windows that name no process are left out.
+// Without an X server, and in Wayland sessions after the X clients, the installed applications running as
+// the user's processes follow, none of them active (Wayland tells no one which window is in front).
 class SystemWorkspace final : public WorkspaceProviding {
 public:
+    enum class Scope { Windows, WindowsAndProcesses };
     SystemWorkspace(std::shared_ptr<X11Link> x11, std::shared_ptr<AppIdentityResolver> identities,
-                    std::shared_ptr<WindowClassMemo> memo = std::make_shared<WindowClassMemo>());
+                    std::shared_ptr<WindowClassMemo> memo = std::make_shared<WindowClassMemo>(),
+                    Scope scope = Scope::Windows);
 
     [[nodiscard]] QList<AppSnapshot> runningApplications() const override;
 
+    // How often, in milliseconds, the installed applications are looked at again (a few stat calls).
+    static constexpr int desktopEntryRefreshInterval = 10000;
+
 private:
+    void appendInstalledApplications(QList<AppSnapshot>& applications) const;
+
     std::shared_ptr<X11Link> m_x11;
     std::shared_ptr<AppIdentityResolver> m_identities;
     std::shared_ptr<WindowClassMemo> m_memo;
+    Scope m_scope = Scope::Windows;
+    // Applications installed while we run get their names at the next look, a few seconds later.
+    mutable QMutex m_refreshMutex;
+    mutable QDeadlineTimer m_nextRefresh{desktopEntryRefreshInterval};
     LogOnce m_log;
 };
 
@@ -85,9 +99,12 @@ private:
 
 // Idle time from the X server's screen-saver extension; without X, from the desktop's D-Bus idle monitor
 // (GNOME's Mutter IdleMonitor, else org.freedesktop.ScreenSaver's GetSessionIdleTime). 0 when nothing answers.
+// In a Wayland session only the bus is asked: Xwayland sees only the input that goes to X clients, and would
+// call a user idle who types into a Wayland window.
 class SystemIdleTime final : public IdleTimeProviding {
 public:
-    SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus);
+    enum class Source { X11First, BusOnly };
+    SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus, Source order = Source::X11First);
 
     [[nodiscard]] double secondsSinceLastInput() const override;
 
@@ -96,8 +113,11 @@ public:
 private:
     [[nodiscard]] std::optional<double> busIdleSeconds() const;
 
+    [[nodiscard]] std::optional<double> x11IdleSeconds() const;
+
     std::shared_ptr<X11Link> m_x11;
     QDBusConnection m_bus;
+    Source m_order = Source::X11First;
     LogOnce m_log;
 };
 

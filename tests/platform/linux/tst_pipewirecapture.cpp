@@ -1,0 +1,220 @@
+// Screen capture as a real PipeWire server shows it: the test starts a private server and publishes nodes
+// with pw-cli, as a desktop's screencast service, a camera, a microphone or a recorder would.
+#include "MessageCapture.h"
+#include "detection/PipeWireCapture.h"
+
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLocalServer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Just enough of a server for clients to connect and publish nodes; no devices, no session manager.
+constexpr char serverConfig[] = R"(
+context.properties = { core.daemon = true core.name = pipewire-0 support.dbus = false }
+context.spa-libs = { support.* = support/libspa-support }
+context.modules = [
+    { name = libpipewire-module-protocol-native }
+    { name = libpipewire-module-access }
+    { name = libpipewire-module-client-node }
+    { name = libpipewire-module-adapter }
+]
+)";
+
+} // namespace
+
+class TestPipeWireCapture : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void cleanup();
+
+    void screenCastersAndRecordersAreCapture_data();
+    void screenCastersAndRecordersAreCapture();
+
+    void aServerWithoutCaptureAnswersFalse();
+    void aScreencastSourceIsCaptureWhileItExists();
+    void aRecorderStreamIsCapture();
+    void withoutAServerTheAnswerIsFalseAndSaidOnce();
+    void aHungServerCostsAtMostTheTimeout();
+
+private:
+    // Publishes a node for as long as the returned pw-cli runs.
+    QProcess* publish(const QString& properties);
+    void unpublish(QProcess* cli);
+    QProcessEnvironment environment() const;
+
+    QTemporaryDir m_runtime;
+    std::unique_ptr<QProcess> m_server;
+    std::vector<std::unique_ptr<QProcess>> m_clients;
+};
+
+QProcessEnvironment TestPipeWireCapture::environment() const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_RUNTIME_DIR"_s, m_runtime.path());
+    environment.remove(u"PIPEWIRE_REMOTE"_s);
+    return environment;
+}
+
+void TestPipeWireCapture::initTestCase()
+{
+    const QString pipewire = QStandardPaths::findExecutable(u"pipewire"_s);
+    if (pipewire.isEmpty() || QStandardPaths::findExecutable(u"pw-cli"_s).isEmpty())
+        QSKIP("pipewire or pw-cli is not installed");
+    QVERIFY(m_runtime.isValid());
+    QFile config(m_runtime.filePath(u"server.conf"_s));
+    QVERIFY(config.open(QIODevice::WriteOnly));
+    config.write(serverConfig);
+    config.close();
+    m_server = std::make_unique<QProcess>();
+    m_server->setProcessEnvironment(environment());
+    m_server->setStandardOutputFile(QProcess::nullDevice());
+    m_server->setStandardErrorFile(QProcess::nullDevice());
+    m_server->start(pipewire, {u"-c"_s, config.fileName()});
+    QVERIFY(m_server->waitForStarted(3000));
+    const QDeadlineTimer deadline(10000);
+    while (!QFile::exists(m_runtime.filePath(u"pipewire-0"_s)) && !deadline.hasExpired())
+        QTest::qWait(20);
+    QVERIFY(QFile::exists(m_runtime.filePath(u"pipewire-0"_s)));
+}
+
+void TestPipeWireCapture::cleanup()
+{
+    while (!m_clients.empty())
+        unpublish(m_clients.back().get());
+}
+
+void TestPipeWireCapture::cleanupTestCase()
+{
+    cleanup();
+    if (m_server) {
+        m_server->terminate();
+        if (!m_server->waitForFinished(3000)) {
+            m_server->kill();
+            m_server->waitForFinished();
+        }
+    }
+}
+
+QProcess* TestPipeWireCapture::publish(const QString& properties)
+{
+    auto cli = std::make_unique<QProcess>();
+    cli->setProcessEnvironment(environment());
+    cli->setStandardOutputFile(QProcess::nullDevice());
+    cli->setStandardErrorFile(QProcess::nullDevice());
+    cli->start(QStandardPaths::findExecutable(u"pw-cli"_s), {});
+    if (!cli->waitForStarted(3000))
+        return nullptr;
+    cli->write("create-node adapter { factory.name=support.null-audio-sink " + properties.toUtf8() + " }\n");
+    m_clients.push_back(std::move(cli));
+    return m_clients.back().get();
+}
+
+void TestPipeWireCapture::unpublish(QProcess* cli)
+{
+    cli->write("quit\n");
+    cli->closeWriteChannel();
+    if (!cli->waitForFinished(3000)) {
+        cli->kill();
+        cli->waitForFinished();
+    }
+    std::erase_if(m_clients, [cli](const auto& owned) { return owned.get() == cli; });
+}
+
+void TestPipeWireCapture::screenCastersAndRecordersAreCapture_data()
+{
+    QTest::addColumn<PipeWireNode>("node");
+    QTest::addColumn<bool>("capture");
+    // mediaClass, nodeName, mediaName, applicationName, processBinary
+    QTest::newRow("wlroots portal") << PipeWireNode{u"Video/Source"_s, u"xdpw_stream"_s, {}, {}, {}} << true;
+    QTest::newRow("GNOME") << PipeWireNode{u"Video/Source"_s, u"gnome-shell-screencast"_s, {}, {}, {}} << true;
+    QTest::newRow("GNOME by process") << PipeWireNode{u"Stream/Output/Video"_s, {}, {}, {}, u"gnome-shell"_s} << true;
+    QTest::newRow("KDE") << PipeWireNode{u"Video/Source"_s, {}, {}, u"kwin_wayland"_s, {}} << true;
+    QTest::newRow("portal") << PipeWireNode{u"Video/Source"_s, {}, {}, u"xdg-desktop-portal-gnome"_s, {}} << true;
+    QTest::newRow("camera") << PipeWireNode{u"Video/Source"_s, u"v4l2_input.pci-0000_00_14.0-usb-0_1_1.0"_s, {}, {}, {}}
+                            << false;
+    QTest::newRow("OBS recording") << PipeWireNode{u"Stream/Input/Video"_s, {}, {}, {}, u"obs"_s} << true;
+    QTest::newRow("Kooha") << PipeWireNode{u"Stream/Input/Video"_s, {}, {}, u"Kooha"_s, {}} << true;
+    QTest::newRow("meeting app watching") << PipeWireNode{u"Stream/Input/Video"_s, {}, {}, {}, u"zoom"_s} << false;
+    QTest::newRow("recorder on audio") << PipeWireNode{u"Stream/Input/Audio"_s, {}, {}, {}, u"obs"_s} << false;
+    QTest::newRow("screencast audio") << PipeWireNode{u"Audio/Source"_s, u"screencast-audio"_s, {}, {}, {}} << false;
+    QTest::newRow("nothing known") << PipeWireNode{} << false;
+}
+
+void TestPipeWireCapture::screenCastersAndRecordersAreCapture()
+{
+    QFETCH(PipeWireNode, node);
+    QFETCH(bool, capture);
+    QCOMPARE(PipeWireCapture::isScreenCapture(node), capture);
+}
+
+void TestPipeWireCapture::aServerWithoutCaptureAnswersFalse()
+{
+    const PipeWireCapture capture(m_runtime.path());
+    QProcess* microphone = publish(u"node.name=mic media.class=Audio/Source"_s);
+    QProcess* camera = publish(u"node.name=v4l2_input.usb-cam media.class=Video/Source"_s);
+    QVERIFY(microphone && camera);
+    QTRY_COMPARE(capture.nodes().value_or(QList<PipeWireNode>()).size(), 2);
+    QVERIFY(!capture.isCapturing());
+}
+
+void TestPipeWireCapture::aScreencastSourceIsCaptureWhileItExists()
+{
+    const PipeWireCapture capture(m_runtime.path());
+    QVERIFY(!capture.isCapturing());
+    QProcess* portal = publish(u"node.name=xdpw_stream media.class=Video/Source"_s);
+    QVERIFY(portal);
+    QTRY_VERIFY(capture.isCapturing());
+    unpublish(portal);
+    QTRY_VERIFY(!capture.isCapturing());
+}
+
+void TestPipeWireCapture::aRecorderStreamIsCapture()
+{
+    const PipeWireCapture capture(m_runtime.path());
+    QVERIFY(publish(u"node.name=obs-input media.class=Stream/Input/Video application.name=OBS"_s));
+    QTRY_VERIFY(capture.isCapturing());
+}
+
+void TestPipeWireCapture::withoutAServerTheAnswerIsFalseAndSaidOnce()
+{
+    QTemporaryDir empty;
+    const PipeWireCapture capture(empty.path());
+    MessageCapture messages;
+    QElapsedTimer timer;
+    timer.start();
+    for (int pass = 0; pass < 3; ++pass) {
+        QVERIFY(!capture.isCapturing());
+        QCOMPARE(capture.nodes(), std::nullopt);
+    }
+    QVERIFY(timer.elapsed() < 100);
+    QCOMPARE(messages.texts().size(), 1);
+}
+
+void TestPipeWireCapture::aHungServerCostsAtMostTheTimeout()
+{
+    QTemporaryDir runtime;
+    QLocalServer silent;
+    QVERIFY(silent.listen(runtime.filePath(u"pipewire-0"_s)));
+    const PipeWireCapture capture(runtime.path());
+    MessageCapture messages;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!capture.isCapturing());
+    QVERIFY2(timer.elapsed() < 500, QByteArray::number(timer.elapsed()).constData());
+    QCOMPARE(messages.texts().size(), 1);
+}
+
+QTEST_GUILESS_MAIN(TestPipeWireCapture)
+#include "tst_pipewirecapture.moc"

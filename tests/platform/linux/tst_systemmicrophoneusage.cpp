@@ -1,0 +1,222 @@
+// Microphones through a real PulseAudio server that the test starts with a null source (and a recording
+// client, parecord), through a silent server, and through fixture ALSA status files.
+#include "MessageCapture.h"
+#include "detection/SystemDeviceUsage.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLocalServer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace velto;
+using namespace Qt::Literals::StringLiterals;
+
+class TestSystemMicrophoneUsage : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanupTestCase();
+
+    void alsaCountsRunningCaptureSubstreamsOnly();
+    void pulseCountsRecordingsOnRealSourcesOnly();
+    void withoutASoundServerAlsaAnswersAndTheFailureIsReportedOnce();
+    void aHungSoundServerCostsAtMostTheTimeout();
+
+private:
+    void write(const QString& relativePath, const QByteArray& contents = {});
+    void link(const QString& relativePath, const QString& target);
+    QString path(const QString& relative) const { return m_root->filePath(relative); }
+    bool startPulse();
+    QProcess* record(const QString& source);
+    int sourceOutputCount() const;
+
+    QTemporaryDir m_pulseDir;
+    std::unique_ptr<QProcess> m_pulse;
+    QString m_pulseSocket;
+    std::vector<std::unique_ptr<QProcess>> m_recorders;
+
+    std::unique_ptr<QTemporaryDir> m_root;
+};
+
+void TestSystemMicrophoneUsage::init()
+{
+    m_root = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_root->isValid());
+}
+
+void TestSystemMicrophoneUsage::write(const QString& relativePath, const QByteArray& contents)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path(relativePath)).absolutePath()));
+    QFile file(path(relativePath));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+}
+
+void TestSystemMicrophoneUsage::link(const QString& relativePath, const QString& target)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path(relativePath)).absolutePath()));
+    QVERIFY(QFile::link(target, path(relativePath)));
+}
+
+void TestSystemMicrophoneUsage::cleanupTestCase()
+{
+    for (auto& recorder : m_recorders) {
+        recorder->kill();
+        recorder->waitForFinished();
+    }
+    if (m_pulse) {
+        m_pulse->terminate();
+        if (!m_pulse->waitForFinished(3000)) {
+            m_pulse->kill();
+            m_pulse->waitForFinished();
+        }
+    }
+}
+
+bool TestSystemMicrophoneUsage::startPulse()
+{
+    if (m_pulse)
+        return true;
+    const QString pulseaudio = QStandardPaths::findExecutable(u"pulseaudio"_s);
+    if (pulseaudio.isEmpty() || QStandardPaths::findExecutable(u"parecord"_s).isEmpty())
+        return false;
+    m_pulseSocket = m_pulseDir.filePath(u"native"_s);
+    m_pulse = std::make_unique<QProcess>();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, m_pulseDir.path());
+    environment.insert(u"XDG_RUNTIME_DIR"_s, m_pulseDir.path());
+    environment.insert(u"XDG_CONFIG_HOME"_s, m_pulseDir.path());
+    environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+    environment.remove(u"DISPLAY"_s);
+    m_pulse->setProcessEnvironment(environment);
+    m_pulse->setStandardOutputFile(QProcess::nullDevice());
+    m_pulse->setStandardErrorFile(QProcess::nullDevice());
+    m_pulse->start(pulseaudio,
+                   {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--disable-shm=yes"_s,
+                    u"--use-pid-file=no"_s, u"--system=no"_s, u"--log-target=stderr"_s, u"-L"_s,
+                    u"module-native-protocol-unix auth-anonymous=1 socket="_s + m_pulseSocket, u"-L"_s,
+                    u"module-null-source source_name=test_mic"_s, u"-L"_s, u"module-null-sink sink_name=test_out"_s});
+    if (!m_pulse->waitForStarted(3000))
+        return false;
+    const QDeadlineTimer deadline(10000);
+    while (!QFile::exists(m_pulseSocket) && !deadline.hasExpired() && m_pulse->state() == QProcess::Running)
+        QTest::qWait(20);
+    return QFile::exists(m_pulseSocket);
+}
+
+QProcess* TestSystemMicrophoneUsage::record(const QString& source)
+{
+    auto recorder = std::make_unique<QProcess>();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"PULSE_SERVER"_s, u"unix:"_s + m_pulseSocket);
+    environment.insert(u"HOME"_s, m_pulseDir.path());
+    recorder->setProcessEnvironment(environment);
+    recorder->setStandardOutputFile(QProcess::nullDevice());
+    recorder->start(QStandardPaths::findExecutable(u"parecord"_s), {u"--raw"_s, u"--device="_s + source});
+    if (!recorder->waitForStarted(3000))
+        return nullptr;
+    m_recorders.push_back(std::move(recorder));
+    return m_recorders.back().get();
+}
+
+// Asked with the server's own client, independently of the provider.
+int TestSystemMicrophoneUsage::sourceOutputCount() const
+{
+    QProcess pactl;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"PULSE_SERVER"_s, u"unix:"_s + m_pulseSocket);
+    environment.insert(u"HOME"_s, m_pulseDir.path());
+    pactl.setProcessEnvironment(environment);
+    pactl.start(QStandardPaths::findExecutable(u"pactl"_s), {u"list"_s, u"short"_s, u"source-outputs"_s});
+    if (!pactl.waitForFinished(3000))
+        return -1;
+    return int(pactl.readAllStandardOutput().count('\n'));
+}
+
+void TestSystemMicrophoneUsage::alsaCountsRunningCaptureSubstreamsOnly()
+{
+    write(u"proc/asound/card0/id"_s, "PCH\n");
+    write(u"proc/asound/card0/pcm0c/sub0/status"_s, "state: RUNNING\nowner_pid   : 1234\n");
+    write(u"proc/asound/card0/pcm0p/sub0/status"_s, "state: RUNNING\n");
+    write(u"proc/asound/card0/pcm2c/sub0/status"_s, "closed\n");
+    write(u"proc/asound/card1/id"_s, "Webcam\n");
+    write(u"proc/asound/card1/pcm0c/sub0/status"_s, "state: PREPARED\n");
+    write(u"proc/asound/card1/pcm0c/sub1/status"_s, "state: RUNNING\n");
+    write(u"proc/asound/card2/pcm0c/sub0/status"_s, "state: RUNNING\n");
+    SystemMicrophoneUsage::Options options;
+    options.proc = path(u"proc"_s);
+    const SystemMicrophoneUsage microphone(options);
+    QCOMPARE(microphone.alsaCaptureDevices(), (QStringList{u"hw:PCH,0"_s, u"hw:Webcam,0"_s, u"hw:2,0"_s}));
+    options.proc = path(u"nothing"_s);
+    QVERIFY(SystemMicrophoneUsage(options).alsaCaptureDevices().isEmpty());
+}
+
+void TestSystemMicrophoneUsage::pulseCountsRecordingsOnRealSourcesOnly()
+{
+    if (!startPulse())
+        QSKIP("pulseaudio or parecord is not installed, or the server did not start");
+    SystemMicrophoneUsage::Options options;
+    options.pulseServer = "unix:" + QFile::encodeName(m_pulseSocket);
+    options.proc = path(u"proc"_s);
+    const SystemMicrophoneUsage microphone(options);
+    QCOMPARE(microphone.pulseCaptureSources(), std::optional<QStringList>(QStringList()));
+    QVERIFY(!microphone.isMicrophoneInUse());
+
+    // Recording what goes to the speakers (a monitor source) is no microphone.
+    QProcess* monitor = record(u"test_out.monitor"_s);
+    QVERIFY(monitor);
+    QTRY_COMPARE(sourceOutputCount(), 1); // connected, so the next check would see it
+    QVERIFY(microphone.activeMicrophoneIdentifiers().isEmpty());
+
+    QProcess* recorder = record(u"test_mic"_s);
+    QVERIFY(recorder);
+    QTRY_COMPARE(microphone.activeMicrophoneIdentifiers(), QStringList{u"test_mic"_s});
+    QVERIFY(microphone.isMicrophoneInUse());
+
+    recorder->kill();
+    recorder->waitForFinished();
+    QTRY_VERIFY(!microphone.isMicrophoneInUse());
+}
+
+void TestSystemMicrophoneUsage::withoutASoundServerAlsaAnswersAndTheFailureIsReportedOnce()
+{
+    write(u"proc/asound/card0/id"_s, "PCH\n");
+    write(u"proc/asound/card0/pcm0c/sub0/status"_s, "state: RUNNING\n");
+    SystemMicrophoneUsage::Options options;
+    options.pulseServer = "unix:" + QFile::encodeName(path(u"no-such-socket"_s));
+    options.proc = path(u"proc"_s);
+    const SystemMicrophoneUsage microphone(options);
+    MessageCapture capture;
+    for (int pass = 0; pass < 3; ++pass)
+        QCOMPARE(microphone.activeMicrophoneIdentifiers(), QStringList{u"hw:PCH,0"_s});
+    QCOMPARE(capture.texts().size(), 1);
+    QVERIFY(capture.texts().first().contains(u"No sound server answers"_s));
+}
+
+void TestSystemMicrophoneUsage::aHungSoundServerCostsAtMostTheTimeout()
+{
+    // A socket that accepts connections and never says a word.
+    QLocalServer silent;
+    silent.setSocketOptions(QLocalServer::UserAccessOption);
+    QVERIFY(silent.listen(path(u"silent"_s)));
+    SystemMicrophoneUsage::Options options;
+    options.pulseServer = "unix:" + QFile::encodeName(path(u"silent"_s));
+    options.proc = path(u"proc"_s);
+    const SystemMicrophoneUsage microphone(options);
+    MessageCapture capture;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(microphone.activeMicrophoneIdentifiers().isEmpty());
+    const qint64 elapsed = timer.elapsed();
+    QVERIFY2(elapsed >= 200 && elapsed < 500, QByteArray::number(elapsed).constData());
+    QCOMPARE(capture.texts().size(), 1);
+}
+
+QTEST_GUILESS_MAIN(TestSystemMicrophoneUsage)
+#include "tst_systemmicrophoneusage.moc"
