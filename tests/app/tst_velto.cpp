@@ -166,7 +166,7 @@ void TestVelto::theRunningInstanceFollowsTheCommandLine()
     QVERIFY(result.out.contains(u"State:        working\n"_s));
 
     QCOMPARE(velto({u"pause"_s, u"5"_s}).exitCode, 0);
-    QJsonObject json = status();
+    const QJsonObject json = status();
     QCOMPARE(json.value(u"state"_s).toString(), u"paused"_s);
     QCOMPARE(json.value(u"pauseReason"_s).toString(), u"manuallyPaused"_s);
     QVERIFY2(json.value(u"statusLine"_s).toString().contains(u"resumes in 5 min"_s),
@@ -175,18 +175,8 @@ void TestVelto::theRunningInstanceFollowsTheCommandLine()
     QCOMPARE(velto({u"resume"_s}).exitCode, 0);
     QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
 
-    QCOMPARE(velto({u"disable"_s}).exitCode, 0);
-    json = status();
-    QCOMPARE(json.value(u"enabled"_s).toBool(true), false);
-    QCOMPARE(json.value(u"pauseReason"_s).toString(), u"appDisabled"_s);
-
-    QCOMPARE(velto({u"enable"_s}).exitCode, 0);
-    QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
-
     QCOMPARE(velto({u"break"_s}).exitCode, 0);
     QCOMPARE(status().value(u"state"_s).toString(), u"onBreak"_s);
-    QCOMPARE(velto({u"skip"_s}).exitCode, 0);
-    QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
 
     quitAndWait(instance);
     const QString instanceErrors = QString::fromUtf8(instance->readAllStandardError());
@@ -239,19 +229,12 @@ void TestVelto::theCommandLineNeverStartsAGui()
     noDisplay.insert(u"QT_QPA_PLATFORM"_s, u"no-such-platform"_s);
     noDisplay.remove(u"DISPLAY"_s);
     noDisplay.remove(u"WAYLAND_DISPLAY"_s);
-    Result result = velto({u"status"_s}, noDisplay);
+    const Result result = velto({u"status"_s}, noDisplay);
     QCOMPARE(result.exitCode, 1);
     QCOMPARE(result.out, QString());
     QCOMPARE(result.err, u"velto: Velto is not running\n"_s);
     // Asking never started one.
     QVERIFY(!isOwned());
-
-    QProcess* instance = startInstance();
-    QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
-    result = velto({u"status"_s, u"--json"_s}, noDisplay);
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(QJsonDocument::fromJson(result.out.toUtf8()).object().value(u"state"_s).toString(), u"working"_s);
-    quitAndWait(instance);
 }
 
 void TestVelto::withoutASessionBusVeltoStillRuns()
