@@ -30,8 +30,6 @@ void TestDesktopSettings::reducedMotion_data()
     const std::optional<double> unread;
     QTest::newRow("nothing known") << u""_s << unknown << unread << false;
     QTest::newRow("GNOME, animations off") << u"GNOME"_s << std::optional<bool>(false) << unread << true;
-    QTest::newRow("GNOME, animations on") << u"ubuntu:GNOME"_s << std::optional<bool>(true) << unread << false;
-    QTest::newRow("Plasma, factor 0") << u"KDE"_s << std::optional<bool>(true) << std::optional<double>(0) << true;
     // GTK's setting exists in Plasma sessions too, but it is Plasma's own that counts there.
     QTest::newRow("Plasma, slow animations")
         << u"KDE"_s << std::optional<bool>(false) << std::optional<double>(2.5) << false;
