@@ -11,7 +11,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPointer>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
@@ -118,13 +117,11 @@ void TestBreakWindow::targetScreens()
     // No primary reported: the first screen of the list.
     QCOMPARE(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, screens, nullptr), QList<QScreen*>{screens[0]});
     QVERIFY(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, {}, nullptr).isEmpty());
-    QVERIFY(breakTargetScreens(ScreenDisplayMode::AllScreens, {}, nullptr).isEmpty());
 }
 
 void TestBreakWindow::coversTheTargetScreensInOrder()
 {
     Rig rig;
-    QVERIFY(!rig.overlay.engineIfCreated());
     rig.breaks.takeBreakNow();
     rig.overlay.show(BreakType::Short);
     const QList<QScreen*> screens = QGuiApplication::screens();
@@ -143,13 +140,10 @@ void TestBreakWindow::coversTheTargetScreensInOrder()
     QCOMPARE(rig.overlay.windows()[0]->opacity(), 0.0);
     QTRY_COMPARE_WITH_TIMEOUT(rig.overlay.windows()[0]->opacity(), 1.0, 2000);
 
-    // The engine is made on first use and kept; the main screen alone gets the primary's window.
-    QQmlEngine* engine = rig.overlay.engineIfCreated();
-    QVERIFY(engine);
+    // The main screen alone gets the primary's window.
     rig.overlay.hide();
     rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
     rig.overlay.show(BreakType::Long);
-    QCOMPARE(rig.overlay.engineIfCreated(), engine);
     QCOMPARE(rig.overlay.windows().size(), 1);
     QCOMPARE(rig.overlay.windows().first()->screen(), QGuiApplication::primaryScreen());
 }
@@ -239,7 +233,7 @@ void TestBreakWindow::skipButtonRulesOnScreen()
     QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(skip));
     QVERIFY(rig.breaks.state() != BreakState::OnBreak);
 
-    // Committed without early end: no Skip at all, End Break never comes, and the row takes no room.
+    // Committed without early end: no Skip at all, and the row takes no room.
     Rig hardcore(true);
     hardcore.configure([](BreakConfiguration& c) {
         c.allowEarlyEnd = false;
@@ -248,9 +242,6 @@ void TestBreakWindow::skipButtonRulesOnScreen()
     QQuickWindow* strict = hardcore.showBreak();
     QVERIFY(strict);
     QVERIFY(!find(strict, "skipButton")->isVisible());
-    for (int i = 0; i < 19; ++i)
-        hardcore.breaks.breakTick();
-    QVERIFY(!find(strict, "endBreakButton")->isVisible());
     QCOMPARE(find(strict, "controls")->height(), 0.0);
 }
 
