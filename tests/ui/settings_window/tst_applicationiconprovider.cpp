@@ -1,6 +1,6 @@
 #include "ApplicationIconProvider.h"
-#include "detection/ApplicationInfoProviding.h"
 #include "SettingsPaneModel.h"
+#include "detection/ApplicationInfoProviding.h"
 
 #include <QGuiApplication>
 #include <QHash>
