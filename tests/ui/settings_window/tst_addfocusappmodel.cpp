@@ -1,10 +1,9 @@
 #include "AddFocusAppModel.h"
+#include "FakeApplicationInfo.h"
 #include "FakeDetectionProviders.h"
 #include "InMemoryUserDefaults.h"
-#include "detection/ApplicationInfoProviding.h"
 #include "settings/SettingsManager.h"
 
-#include <QHash>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThreadPool>
@@ -13,18 +12,6 @@ using namespace Qt::StringLiterals;
 using namespace velto;
 
 namespace {
-
-class FakeApplications final : public ApplicationInfoProviding {
-public:
-    [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const QString& identifier) const override
-    {
-        const auto found = known.constFind(identifier);
-        if (found == known.cend())
-            return std::nullopt;
-        return *found;
-    }
-    QHash<QString, ApplicationInfo> known;
-};
 
 AppSnapshot snapshot(const QString& identifier, qint32 pid)
 {
@@ -65,7 +52,7 @@ private:
         InMemoryUserDefaults store;
         SettingsManager settings{store, nullptr};
         FakeWorkspace workspace;
-        FakeApplications applications;
+        FakeApplicationInfo applications;
         AddFocusAppModel model{&settings, &workspace, &applications};
     };
 
