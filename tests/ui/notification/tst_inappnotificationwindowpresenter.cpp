@@ -1,7 +1,5 @@
-#include "FakeSoundPlayer.h"
 #include "InAppNotificationWindowPresenter.h"
 #include "PreBreakNotificationHostingView.h"
-#include "notification/InAppNotificationManager.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
 #include <QFile>
@@ -10,7 +8,6 @@
 #include <QParallelAnimationGroup>
 #include <QPropertyAnimation>
 #include <QQmlContext>
-#include <QQmlEngine>
 #include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -58,6 +55,13 @@ struct Rig {
 QQuickItem* item(QQuickWindow* window, const QString& name)
 {
     return window ? window->findChild<QQuickItem*>(name) : nullptr;
+}
+
+void click(QQuickWindow* window, QQuickItem* target)
+{
+    QVERIFY(target != nullptr);
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
+                      target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint());
 }
 
 QVariant evaluate(QQuickItem* target, const QString& expression)
@@ -112,7 +116,6 @@ private Q_SLOTS:
     void controlsCallTheirActions();
     void coloursFollowTheDesktopPalette();
     void aSwipeOverTheButtonsReachesTheCard();
-    void theManagerDrivesARealCard();
 };
 
 void TestInAppNotificationWindowPresenter::init()
@@ -193,9 +196,7 @@ void TestInAppNotificationWindowPresenter::arrivesAndLeavesWithTheRightMotion()
     QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
     QCOMPARE(rig.presenter.panel(), panel.data());
     // A late click on the leaving card is not a second answer.
-    QQuickItem* breakNow = item(panel, u"breakNowButton"_s);
-    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier,
-                      breakNow->mapToScene(QPointF(breakNow->width() / 2, breakNow->height() / 2)).toPoint());
+    click(panel, item(panel, u"breakNowButton"_s));
     QVERIFY(rig.calls.isEmpty());
     QCOMPARE(rig.host()->runningAnimation(), leaving);
     // Nor does a second hide start the fade over.
@@ -277,10 +278,7 @@ void TestInAppNotificationWindowPresenter::controlsCallTheirActions()
     QQuickWindow* panel = rig.show();
     QVERIFY(QTest::qWaitForWindowExposed(panel));
     finish(rig.host()->runningAnimation());
-    QQuickItem* target = item(panel, control);
-    QVERIFY(target != nullptr);
-    const QPoint centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint();
-    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier, centre);
+    click(panel, item(panel, control));
     QCOMPARE(rig.calls, QStringList({call}));
 }
 
@@ -323,32 +321,6 @@ void TestInAppNotificationWindowPresenter::aSwipeOverTheButtonsReachesTheCard()
     scroll({250, 0}, Qt::ScrollUpdate);
     scroll({}, Qt::ScrollEnd);
     QCOMPARE(rig.calls, QStringList({u"dismiss"_s}));
-}
-
-void TestInAppNotificationWindowPresenter::theManagerDrivesARealCard()
-{
-    FakeSoundPlayer player;
-    auto presenter = std::make_unique<InAppNotificationWindowPresenter>([] { return false; });
-    InAppNotificationWindowPresenter* view = presenter.get();
-    InAppNotificationManager manager(std::move(presenter), &player, nullptr);
-
-    manager.showPreBreakNotification(BreakType::Short, 45, 8);
-    QCOMPARE(view->panel(), nullptr);
-    QTRY_VERIFY(view->panel() != nullptr);
-    QQuickWindow* panel = view->panel();
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    manager.updateTimeRemaining(44);
-    QCOMPARE(item(panel, u"countdownText"_s)->property("text").toString(), u"0:44"_s);
-
-    // A card replaced in the same turn as the dismissal still comes up.
-    manager.dismiss();
-    manager.showPreBreakNotification(BreakType::Long, 44, 8);
-    QTRY_VERIFY(view->panel() != nullptr && view->panel() != panel);
-    panel = view->panel();
-    QVERIFY(panel->isVisible());
-    QCOMPARE(item(panel, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
-    manager.dismiss();
-    QTRY_COMPARE(view->panel(), nullptr);
 }
 
 int main(int argc, char** argv)
