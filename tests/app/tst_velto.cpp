@@ -57,14 +57,11 @@ private Q_SLOTS:
         QCOMPARE(result.exitCode, 0);
         QCOMPARE(result.out, u"velto " VELTO_VERSION "\n"_s);
 
-        for (const QStringList& bad :
-             {QStringList{u"snooze"_s}, QStringList{u"pause"_s, u"0"_s}, QStringList{u"status"_s, u"--yaml"_s}}) {
-            result = velto(bad);
-            QCOMPARE(result.exitCode, 2);
-            QCOMPARE(result.out, QString());
-            QVERIFY2(result.err.startsWith(u"velto: "_s), qPrintable(result.err));
-            QVERIFY(result.err.contains(u"Usage: velto"_s));
-        }
+        result = velto({u"pause"_s, u"0"_s});
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.out, QString());
+        QVERIFY2(result.err.startsWith(u"velto: "_s), qPrintable(result.err));
+        QVERIFY(result.err.contains(u"Usage: velto"_s));
     }
 
     void theRunningInstanceFollowsTheCommandLine()
