@@ -50,7 +50,6 @@ private Q_SLOTS:
         Fixture f;
         BreakConfiguration breaks = f.settings.breakConfiguration();
         breaks.workInterval = 90;
-        breaks.longBreakFrequency = 0;
         f.settings.setBreakConfiguration(breaks);
         NotificationSettings notifications = f.settings.notificationSettings();
         notifications.preBreakNotificationTime = 240;
@@ -60,7 +59,6 @@ private Q_SLOTS:
         f.settings.setBreakAppearance(appearance);
 
         QCOMPARE(f.model.selection(Picker::WorkInterval), -1);
-        QCOMPARE(f.model.selection(Picker::LongBreakFrequency), -1);
         QCOMPARE(f.model.selection(Picker::PreBreakNotification), -1);
         QCOMPARE(f.model.selection(Picker::BackgroundType), -1);
         // Reading changed nothing.
