@@ -323,65 +323,58 @@ private Q_SLOTS:
         QVERIFY(!isShown(theme));
     }
 
-    void focusAppSheetAddsTheSelectedApplication()
-    {
-        Fixture f;
-        f.workspace.applications.set({AppSnapshot{u"org.gnome.TextEditor"_s, true, 7}});
-        f.open();
-        QObject* pane = f.pane(2);
-        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
-        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
-        QObject* sheet = pane->findChild<QObject*>(u"addFocusAppSheet"_s);
-        QVERIFY(sheet);
-        QTRY_VERIFY(sheet->property("opened").toBool());
-        auto* model = f.controller.settingsWindow()->property("focusAppModel").value<AddFocusAppModel*>();
-        QTRY_COMPARE(model->filteredApps().size(), 1);
-        QObject* add = sheet->findChild<QObject*>(u"addSelected"_s);
-        QVERIFY(add);
-        QVERIFY(!add->property("enabled").toBool());
-        model->setSelectedBundleId(u"org.gnome.TextEditor"_s);
-        QVERIFY(add->property("enabled").toBool());
-        emitSignal(add, "clicked");
-        QTRY_VERIFY(!sheet->property("visible").toBool());
-        QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
-        QVERIFY(!isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
-
-        emitSignal(named(pane, u"removeFocusApp"_s).value(0), "clicked");
-        QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
-        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
-    }
-
-    void sheetKeysEscapeCancelsAndReturnAdds()
+    void focusAppSheetAddsByButtonOrKeysAndEscapeCancels()
     {
         Fixture f;
         f.workspace.applications.set({AppSnapshot{u"org.gnome.TextEditor"_s, true, 7}});
         QQuickWindow* window = f.open();
         window->requestActivate();
         QObject* pane = f.pane(2);
+        QObject* addApp = pane->findChild<QObject*>(u"addApp"_s);
         QObject* sheet = pane->findChild<QObject*>(u"addFocusAppSheet"_s);
+        QVERIFY(sheet);
+        QObject* add = sheet->findChild<QObject*>(u"addSelected"_s);
+        QVERIFY(add);
         auto* model = window->property("focusAppModel").value<AddFocusAppModel*>();
+        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
 
-        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        emitSignal(addApp, "clicked");
         QTRY_VERIFY(sheet->property("opened").toBool());
         QTRY_COMPARE(model->filteredApps().size(), 1);
         // Return without a selection adds nothing and keeps the sheet.
+        QVERIFY(!add->property("enabled").toBool());
         QTest::keyClick(window, Qt::Key_Return);
         QVERIFY(sheet->property("visible").toBool());
         // Down selects the first application, Escape leaves without adding it.
         QTest::keyClick(window, Qt::Key_Tab);
         QTest::keyClick(window, Qt::Key_Down);
         QCOMPARE(model->selectedBundleId(), u"org.gnome.TextEditor"_s);
+        QVERIFY(add->property("enabled").toBool());
         QTest::keyClick(window, Qt::Key_Escape);
         QTRY_VERIFY(!sheet->property("visible").toBool());
         QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
 
-        // A new showing starts without a selection; Down selects, Return adds.
-        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        // A new showing starts without a selection; Down and Return add.
+        emitSignal(addApp, "clicked");
         QTRY_VERIFY(sheet->property("opened").toBool());
         QVERIFY(!model->canAdd());
+        QTRY_COMPARE(model->filteredApps().size(), 1);
         QTest::keyClick(window, Qt::Key_Tab);
         QTest::keyClick(window, Qt::Key_Down);
         QTest::keyClick(window, Qt::Key_Return);
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
+        QVERIFY(!isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
+        emitSignal(named(pane, u"removeFocusApp"_s).value(0), "clicked");
+        QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
+        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
+
+        // The button adds the chosen application.
+        emitSignal(addApp, "clicked");
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        QTRY_COMPARE(model->filteredApps().size(), 1);
+        model->setSelectedBundleId(u"org.gnome.TextEditor"_s);
+        emitSignal(add, "clicked");
         QTRY_VERIFY(!sheet->property("visible").toBool());
         QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
     }
