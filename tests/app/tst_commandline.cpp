@@ -10,145 +10,115 @@ class TestCommandLine : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void commandsAndTheirOptions_data();
-    void commandsAndTheirOptions();
-    void badArgumentsAreInvalidWithAReason_data();
-    void badArgumentsAreInvalidWithAReason();
-    void qtStartUpOptionsStillStartTheApplication_data();
-    void qtStartUpOptionsStillStartTheApplication();
-    void onlyCommandsForTheRunningInstanceTalkToIt();
-    void usageNamesEveryCommand();
+    void commandsAndTheirOptions_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("command");
+        QTest::addColumn<bool>("json");
+        QTest::addColumn<bool>("longBreak");
+        QTest::addColumn<int>("pauseMinutes");
+
+        const auto row = [](const char* name, QStringList arguments, Command command, bool json = false,
+                            bool longBreak = false, int minutes = 15) {
+            QTest::newRow(name) << arguments << int(command) << json << longBreak << minutes;
+        };
+        row("nothing", {}, Command::Run);
+        row("status --json", {u"status"_s, u"--json"_s}, Command::Status, true);
+        row("break --long", {u"break"_s, u"--long"_s}, Command::TakeBreak, false, true);
+        row("pause", {u"pause"_s}, Command::Pause);
+        row("pause a day", {u"pause"_s, u"1440"_s}, Command::Pause, false, false, 1440);
+        row("--help", {u"--help"_s}, Command::Help);
+        row("help after a command", {u"pause"_s, u"--help"_s}, Command::Help);
+        row("help after a bad argument", {u"pause"_s, u"soon"_s, u"-h"_s}, Command::Help);
+        row("-v", {u"-v"_s}, Command::Version);
+    }
+    void commandsAndTheirOptions()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, command);
+        QFETCH(bool, json);
+        QFETCH(bool, longBreak);
+        QFETCH(int, pauseMinutes);
+
+        const CommandLine parsed = CommandLine::parse(arguments);
+        QCOMPARE(int(parsed.command), command);
+        QCOMPARE(parsed.json, json);
+        QCOMPARE(parsed.longBreak, longBreak);
+        QCOMPARE(parsed.pauseMinutes, pauseMinutes);
+        QVERIFY(parsed.error.isEmpty());
+    }
+
+    void badArgumentsAreInvalidWithAReason_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("mentions");
+
+        QTest::newRow("unknown command") << QStringList{u"nap"_s} << u"'nap'"_s;
+        QTest::newRow("option of another command") << QStringList{u"status"_s, u"--long"_s} << u"'--long'"_s;
+        QTest::newRow("json twice") << QStringList{u"status"_s, u"--json"_s, u"--json"_s} << u"'--json'"_s;
+        QTest::newRow("argument to resume") << QStringList{u"resume"_s, u"now"_s} << u"'now'"_s;
+        QTest::newRow("pause zero") << QStringList{u"pause"_s, u"0"_s} << u"'0'"_s;
+        QTest::newRow("pause over a day") << QStringList{u"pause"_s, u"1441"_s} << u"'1441'"_s;
+        QTest::newRow("pause fraction") << QStringList{u"pause"_s, u"1.5"_s} << u"'1.5'"_s;
+        QTest::newRow("pause twice") << QStringList{u"pause"_s, u"5"_s, u"6"_s} << u"'6'"_s;
+        QTest::newRow("two commands") << QStringList{u"status"_s, u"quit"_s} << u"'quit'"_s;
+        QTest::newRow("Qt option without its value") << QStringList{u"-platform"_s} << u"'-platform'"_s;
+    }
+    void badArgumentsAreInvalidWithAReason()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, mentions);
+
+        const CommandLine parsed = CommandLine::parse(arguments);
+        QCOMPARE(parsed.command, Command::Invalid);
+        QVERIFY2(parsed.error.contains(mentions), qPrintable(parsed.error));
+        QVERIFY(!parsed.error.contains(u'\n'));
+    }
+
+    void qtStartUpOptionsStillStartTheApplication_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("command");
+
+        QTest::newRow("platform") << QStringList{u"-platform"_s, u"offscreen"_s} << int(Command::Run);
+        QTest::newRow("with equals") << QStringList{u"-style=Fusion"_s} << int(Command::Run);
+        QTest::newRow("flag and session") << QStringList{u"-reverse"_s, u"-session"_s, u"1234"_s} << int(Command::Run);
+        QTest::newRow("then a command") << QStringList{u"-platform"_s, u"xcb"_s, u"status"_s} << int(Command::Status);
+        // A value that happens to be a command word is still the option's value.
+        QTest::newRow("value named like a command") << QStringList{u"-name"_s, u"quit"_s} << int(Command::Run);
+        QTest::newRow("unknown equals option") << QStringList{u"-colour=red"_s} << int(Command::Invalid);
+    }
+    void qtStartUpOptionsStillStartTheApplication()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, command);
+        QCOMPARE(int(CommandLine::parse(arguments).command), command);
+    }
+
+    void onlyCommandsForTheRunningInstanceTalkToIt()
+    {
+        const QList<Command> local{Command::Run, Command::Help, Command::Version, Command::Invalid};
+        for (int value = 0; value <= int(Command::Invalid); ++value) {
+            CommandLine line;
+            line.command = Command(value);
+            QCOMPARE(line.talksToRunningInstance(), !local.contains(line.command));
+        }
+    }
+
+    void usageNamesEveryCommand()
+    {
+        const QString usage = CommandLine::usage();
+        for (const QString& word :
+             {u"status [--json]"_s, u"break [--long]"_s, u"pause [MINUTES]"_s, u"resume"_s, u"skip"_s, u"enable"_s,
+              u"disable"_s, u"settings"_s, u"quit"_s, u"--help"_s, u"--version"_s}) {
+            QVERIFY2(usage.contains(u" "_s + word + u" "_s), qPrintable(word));
+            // Every command the usage shows parses as something other than a mistake.
+            const QString first = word.section(u' ', 0, 0);
+            QVERIFY2(CommandLine::parse({first}).command != Command::Invalid, qPrintable(first));
+        }
+        QVERIFY(usage.endsWith(u'\n'));
+    }
 };
-
-void TestCommandLine::commandsAndTheirOptions_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("command");
-    QTest::addColumn<bool>("json");
-    QTest::addColumn<bool>("longBreak");
-    QTest::addColumn<int>("pauseMinutes");
-
-    const auto row = [](const char* name, QStringList arguments, Command command, bool json = false,
-                        bool longBreak = false, int minutes = 15) {
-        QTest::newRow(name) << arguments << int(command) << json << longBreak << minutes;
-    };
-    row("nothing", {}, Command::Run);
-    row("status", {u"status"_s}, Command::Status);
-    row("status --json", {u"status"_s, u"--json"_s}, Command::Status, true);
-    row("break", {u"break"_s}, Command::TakeBreak);
-    row("break --long", {u"break"_s, u"--long"_s}, Command::TakeBreak, false, true);
-    row("pause", {u"pause"_s}, Command::Pause);
-    row("pause 5", {u"pause"_s, u"5"_s}, Command::Pause, false, false, 5);
-    row("pause a day", {u"pause"_s, u"1440"_s}, Command::Pause, false, false, 1440);
-    row("resume", {u"resume"_s}, Command::Resume);
-    row("skip", {u"skip"_s}, Command::Skip);
-    row("enable", {u"enable"_s}, Command::Enable);
-    row("disable", {u"disable"_s}, Command::Disable);
-    row("settings", {u"settings"_s}, Command::Settings);
-    row("quit", {u"quit"_s}, Command::Quit);
-    row("--help", {u"--help"_s}, Command::Help);
-    row("-h", {u"-h"_s}, Command::Help);
-    row("help", {u"help"_s}, Command::Help);
-    row("help after a command", {u"pause"_s, u"--help"_s}, Command::Help);
-    row("help after a bad argument", {u"pause"_s, u"soon"_s, u"-h"_s}, Command::Help);
-    row("--version", {u"--version"_s}, Command::Version);
-    row("-v", {u"-v"_s}, Command::Version);
-}
-
-void TestCommandLine::commandsAndTheirOptions()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, command);
-    QFETCH(bool, json);
-    QFETCH(bool, longBreak);
-    QFETCH(int, pauseMinutes);
-
-    const CommandLine parsed = CommandLine::parse(arguments);
-    QCOMPARE(int(parsed.command), command);
-    QCOMPARE(parsed.json, json);
-    QCOMPARE(parsed.longBreak, longBreak);
-    QCOMPARE(parsed.pauseMinutes, pauseMinutes);
-    QVERIFY(parsed.error.isEmpty());
-}
-
-void TestCommandLine::badArgumentsAreInvalidWithAReason_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("mentions");
-
-    QTest::newRow("unknown command") << QStringList{u"nap"_s} << u"'nap'"_s;
-    QTest::newRow("unknown option") << QStringList{u"--verbose"_s} << u"'--verbose'"_s;
-    QTest::newRow("option of another command") << QStringList{u"status"_s, u"--long"_s} << u"'--long'"_s;
-    QTest::newRow("json twice") << QStringList{u"status"_s, u"--json"_s, u"--json"_s} << u"'--json'"_s;
-    QTest::newRow("long for pause") << QStringList{u"pause"_s, u"--long"_s} << u"'--long'"_s;
-    QTest::newRow("argument to resume") << QStringList{u"resume"_s, u"now"_s} << u"'now'"_s;
-    QTest::newRow("argument to quit") << QStringList{u"quit"_s, u"1"_s} << u"'1'"_s;
-    QTest::newRow("argument to version") << QStringList{u"--version"_s, u"x"_s} << u"'x'"_s;
-    QTest::newRow("pause zero") << QStringList{u"pause"_s, u"0"_s} << u"'0'"_s;
-    QTest::newRow("pause negative") << QStringList{u"pause"_s, u"-5"_s} << u"'-5'"_s;
-    QTest::newRow("pause over a day") << QStringList{u"pause"_s, u"1441"_s} << u"'1441'"_s;
-    QTest::newRow("pause fraction") << QStringList{u"pause"_s, u"1.5"_s} << u"'1.5'"_s;
-    QTest::newRow("pause words") << QStringList{u"pause"_s, u"ten"_s} << u"'ten'"_s;
-    QTest::newRow("pause twice") << QStringList{u"pause"_s, u"5"_s, u"6"_s} << u"'6'"_s;
-    QTest::newRow("two commands") << QStringList{u"status"_s, u"quit"_s} << u"'quit'"_s;
-    QTest::newRow("Qt option without its value") << QStringList{u"-platform"_s} << u"'-platform'"_s;
-}
-
-void TestCommandLine::badArgumentsAreInvalidWithAReason()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, mentions);
-
-    const CommandLine parsed = CommandLine::parse(arguments);
-    QCOMPARE(parsed.command, Command::Invalid);
-    QVERIFY2(parsed.error.contains(mentions), qPrintable(parsed.error));
-    QVERIFY(!parsed.error.contains(u'\n'));
-}
-
-void TestCommandLine::qtStartUpOptionsStillStartTheApplication_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("command");
-
-    QTest::newRow("platform") << QStringList{u"-platform"_s, u"offscreen"_s} << int(Command::Run);
-    QTest::newRow("double dash") << QStringList{u"--platform"_s, u"xcb"_s} << int(Command::Run);
-    QTest::newRow("with equals") << QStringList{u"-style=Fusion"_s} << int(Command::Run);
-    QTest::newRow("flag and session") << QStringList{u"-reverse"_s, u"-session"_s, u"1234"_s} << int(Command::Run);
-    QTest::newRow("then a command") << QStringList{u"-platform"_s, u"xcb"_s, u"status"_s} << int(Command::Status);
-    // A value that happens to be a command word is still the option's value.
-    QTest::newRow("value named like a command") << QStringList{u"-name"_s, u"quit"_s} << int(Command::Run);
-    QTest::newRow("unknown equals option") << QStringList{u"-colour=red"_s} << int(Command::Invalid);
-}
-
-void TestCommandLine::qtStartUpOptionsStillStartTheApplication()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, command);
-    QCOMPARE(int(CommandLine::parse(arguments).command), command);
-}
-
-void TestCommandLine::onlyCommandsForTheRunningInstanceTalkToIt()
-{
-    const QList<Command> local{Command::Run, Command::Help, Command::Version, Command::Invalid};
-    for (int value = 0; value <= int(Command::Invalid); ++value) {
-        CommandLine line;
-        line.command = Command(value);
-        QCOMPARE(line.talksToRunningInstance(), !local.contains(line.command));
-    }
-}
-
-void TestCommandLine::usageNamesEveryCommand()
-{
-    const QString usage = CommandLine::usage();
-    for (const QString& word : {u"status [--json]"_s, u"break [--long]"_s, u"pause [MINUTES]"_s, u"resume"_s, u"skip"_s,
-                                u"enable"_s, u"disable"_s, u"settings"_s, u"quit"_s, u"--help"_s, u"--version"_s}) {
-        QVERIFY2(usage.contains(u" "_s + word + u" "_s), qPrintable(word));
-        // Every command the usage shows parses as something other than a mistake.
-        const QString first = word.section(u' ', 0, 0);
-        QVERIFY2(CommandLine::parse({first}).command != Command::Invalid, qPrintable(first));
-    }
-    QVERIFY(usage.endsWith(u'\n'));
-}
 
 QTEST_GUILESS_MAIN(TestCommandLine)
 #include "tst_commandline.moc"

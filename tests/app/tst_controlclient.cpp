@@ -72,243 +72,208 @@ class TestControlClient : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        QVERIFY2(QDBusConnection::sessionBus().isConnected(), "Run this test under dbus-run-session, as ctest does");
+        m_clientBus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"client"_s);
+        QVERIFY(m_clientBus->isConnected());
+    }
 
-    void everyCommandReachesItsOperation_data();
-    void everyCommandReachesItsOperation();
-    void statusShowsTheLineAndEachField();
-    void statusAsJson();
-    void withoutAnInstanceEveryCommandFailsWithOneLine_data();
-    void withoutAnInstanceEveryCommandFailsWithOneLine();
-    void withoutABusNothingIsReached();
-    void settingsSaysWhenThereIsNoWindow();
-    void handOverAsksTheRunningInstanceForItsSettings();
-    void aSilentInstanceIsGivenUpOnAfterTheTimeOut();
-    void quitSucceedsWhenTheInstanceLeavesWithoutAnswering();
+    void init() { m_target = FakeControlTarget(); }
+
+    void cleanup()
+    {
+        m_service.reset();
+        QDBusConnection::disconnectFromBus(u"instance"_s);
+        QTRY_VERIFY(!m_clientBus->interface()->isServiceRegistered(ControlBus::serviceName).value());
+    }
+
+    void everyCommandReachesItsOperation_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QStringList>("calls");
+
+        QTest::newRow("break") << QStringList{u"break"_s} << QStringList{u"takeBreakNow"_s};
+        QTest::newRow("break --long") << QStringList{u"break"_s, u"--long"_s} << QStringList{u"startLongBreak"_s};
+        QTest::newRow("pause 25") << QStringList{u"pause"_s, u"25"_s} << QStringList{u"pauseFor 1500"_s};
+        QTest::newRow("resume") << QStringList{u"resume"_s} << QStringList{u"resume"_s};
+        QTest::newRow("skip") << QStringList{u"skip"_s} << QStringList{u"skipUpcomingBreak"_s};
+        QTest::newRow("enable") << QStringList{u"enable"_s} << QStringList{u"setRemindersEnabled true"_s};
+        QTest::newRow("disable") << QStringList{u"disable"_s} << QStringList{u"setRemindersEnabled false"_s};
+        QTest::newRow("settings") << QStringList{u"settings"_s} << QStringList{u"openSettings"_s};
+        QTest::newRow("status") << QStringList{u"status"_s} << QStringList{};
+        // Quit is the one that acts only after it has answered.
+        QTest::newRow("quit") << QStringList{u"quit"_s} << QStringList{u"quit"_s};
+    }
+    void everyCommandReachesItsOperation()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QStringList, calls);
+        startInstance();
+
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.exitCode, ExitCode::success);
+        QCOMPARE(outcome.err, QString());
+        QTRY_COMPARE(m_target.calls, calls);
+    }
+
+    void statusShowsTheLineAndEachField()
+    {
+        startInstance();
+        m_target.status = {u"24:59  Until next break"_s, u"24:59"_s, u"working"_s, {}, 1, true};
+        Outcome outcome = run({u"status"_s});
+        QCOMPARE(outcome.exitCode, ExitCode::success);
+        QCOMPARE(outcome.err, QString());
+        QCOMPARE(outcome.out, u"24:59  Until next break\n"
+                              u"Time left:    24:59\n"
+                              u"State:        working\n"
+                              u"Pause reason: none\n"
+                              u"Breaks today: 1\n"
+                              u"Reminders:    on\n"_s);
+
+        m_target.status = {u"Breaks disabled"_s, u"—"_s, u"idle"_s, u"appDisabled"_s, 4, false};
+        outcome = run({u"status"_s});
+        QVERIFY(outcome.out.contains(u"Pause reason: appDisabled\n"_s));
+        QVERIFY(outcome.out.endsWith(u"Reminders:    off\n"_s));
+        QVERIFY(m_target.calls.isEmpty());
+    }
+
+    void statusAsJson()
+    {
+        startInstance();
+        m_target.status = {
+            u"12:00  Paused · resumes in 15 min"_s, u"12:00"_s, u"paused"_s, u"manuallyPaused"_s, 2, true};
+        Outcome outcome = run({u"status"_s, u"--json"_s});
+        QCOMPARE(outcome.exitCode, ExitCode::success);
+        QVERIFY(outcome.out.endsWith(u'\n'));
+        QCOMPARE(outcome.out.count(u'\n'), 1); // one line, for scripts
+        QJsonParseError error;
+        QJsonObject json = QJsonDocument::fromJson(outcome.out.toUtf8(), &error).object();
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        QCOMPARE(json, (QJsonObject{{u"statusLine"_s, m_target.status.statusLine},
+                                    {u"timeText"_s, u"12:00"_s},
+                                    {u"state"_s, u"paused"_s},
+                                    {u"pauseReason"_s, u"manuallyPaused"_s},
+                                    {u"breaksToday"_s, 2},
+                                    {u"enabled"_s, true}}));
+
+        // No pause reason is null, not an empty string.
+        m_target.status = {u"Ready"_s, u"—"_s, u"idle"_s, {}, 0, true};
+        outcome = run({u"status"_s, u"--json"_s});
+        json = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
+        QVERIFY(json.value(u"pauseReason"_s).isNull());
+    }
+
+    void withoutAnInstanceEveryCommandFailsWithOneLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("status --json") << QStringList{u"status"_s, u"--json"_s};
+        QTest::newRow("pause") << QStringList{u"pause"_s};
+        QTest::newRow("quit") << QStringList{u"quit"_s};
+    }
+    void withoutAnInstanceEveryCommandFailsWithOneLine()
+    {
+        QFETCH(QStringList, arguments);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.exitCode, ExitCode::failure);
+        QCOMPARE(outcome.out, QString());
+        QCOMPARE(outcome.err, u"velto: Velto is not running\n"_s);
+        // Told at once by the bus, not found out by waiting.
+        QVERIFY(elapsed.elapsed() < 1000);
+    }
+
+    void withoutABusNothingIsReached()
+    {
+        Outcome outcome;
+        QTextStream out(&outcome.out);
+        QTextStream err(&outcome.err);
+        ControlClient client(QDBusConnection(u"never-connected"_s));
+        QCOMPARE(client.run(CommandLine::parse({u"status"_s}), out, err), ExitCode::failure);
+        QCOMPARE(outcome.err.count(u'\n'), 1);
+        QVERIFY(outcome.err.startsWith(u"velto: "_s));
+        QCOMPARE(outcome.out, QString());
+    }
+
+    void settingsSaysWhenThereIsNoWindow()
+    {
+        startInstance();
+        m_target.settingsAvailable = false;
+        const Outcome outcome = run({u"settings"_s});
+        QCOMPARE(outcome.exitCode, ExitCode::failure);
+        QCOMPARE(outcome.err, u"velto: the settings window is not available yet\n"_s);
+        QCOMPARE(m_target.calls, QStringList{u"openSettings"_s});
+    }
+
+    void handOverAsksTheRunningInstanceForItsSettings()
+    {
+        Outcome outcome = run({u"--hand-over"_s});
+        QCOMPARE(outcome.exitCode, ExitCode::failure);
+        QCOMPARE(outcome.err, u"velto: Velto is not running\n"_s);
+
+        startInstance();
+        outcome = run({u"--hand-over"_s});
+        QCOMPARE(outcome.exitCode, ExitCode::success);
+        QCOMPARE(m_target.calls, QStringList{u"openSettings"_s});
+        QVERIFY(outcome.out.contains(u"already running"_s));
+        QVERIFY(outcome.out.contains(u"settings window is open"_s));
+
+        // Even without a window to show, the request was handed over: the second start has done its job.
+        m_target.settingsAvailable = false;
+        outcome = run({u"--hand-over"_s});
+        QCOMPARE(outcome.exitCode, ExitCode::success);
+        QVERIFY(!outcome.out.contains(u"settings"_s));
+    }
+
+    void aSilentInstanceIsGivenUpOnAfterTheTimeOut()
+    {
+        const SilentInstance silent(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"instance"_s), false);
+        for (const QString& command : {u"status"_s, u"quit"_s}) {
+            QElapsedTimer elapsed;
+            elapsed.start();
+            const Outcome outcome = run({command}, 300);
+            QCOMPARE(outcome.exitCode, ExitCode::failure);
+            QCOMPARE(outcome.err, u"velto: Velto did not answer within 0.3 seconds\n"_s);
+            QVERIFY(elapsed.elapsed() >= 250);
+            QVERIFY(elapsed.elapsed() < 3000);
+        }
+    }
+
+    void quitSucceedsWhenTheInstanceLeavesWithoutAnswering()
+    {
+        const SilentInstance vanishing(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"instance"_s), true);
+        const Outcome outcome = run({u"quit"_s});
+        QCOMPARE(outcome.exitCode, ExitCode::success);
+        QCOMPARE(outcome.err, QString());
+    }
 
 private:
     // Runs a command line as the client would; "--hand-over" stands for a second start handing over.
-    [[nodiscard]] Outcome run(const QStringList& arguments, int timeoutMs = 2000);
-    void startInstance();
+    [[nodiscard]] Outcome run(const QStringList& arguments, int timeoutMs = 2000)
+    {
+        Outcome outcome;
+        QTextStream out(&outcome.out);
+        QTextStream err(&outcome.err);
+        ControlClient client(*m_clientBus, timeoutMs);
+        outcome.exitCode = arguments == QStringList{u"--hand-over"_s}
+                               ? client.handOver(out, err)
+                               : client.run(CommandLine::parse(arguments), out, err);
+        return outcome;
+    }
+
+    void startInstance()
+    {
+        m_service = std::make_unique<ControlService>();
+        m_service->setTarget(&m_target);
+        QCOMPARE(m_service->registerOn(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"instance"_s)),
+                 ControlService::Registration::Owner);
+    }
 
     FakeControlTarget m_target;
     std::unique_ptr<ControlService> m_service;
     std::optional<QDBusConnection> m_clientBus;
 };
-
-void TestControlClient::initTestCase()
-{
-    QVERIFY2(QDBusConnection::sessionBus().isConnected(), "Run this test under dbus-run-session, as ctest does");
-    m_clientBus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"client"_s);
-    QVERIFY(m_clientBus->isConnected());
-}
-
-void TestControlClient::init()
-{
-    m_target = FakeControlTarget();
-}
-
-void TestControlClient::cleanup()
-{
-    m_service.reset();
-    QDBusConnection::disconnectFromBus(u"instance"_s);
-    QTRY_VERIFY(!m_clientBus->interface()->isServiceRegistered(ControlBus::serviceName).value());
-}
-
-void TestControlClient::startInstance()
-{
-    m_service = std::make_unique<ControlService>();
-    m_service->setTarget(&m_target);
-    QCOMPARE(m_service->registerOn(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"instance"_s)),
-             ControlService::Registration::Owner);
-}
-
-Outcome TestControlClient::run(const QStringList& arguments, int timeoutMs)
-{
-    Outcome outcome;
-    QTextStream out(&outcome.out);
-    QTextStream err(&outcome.err);
-    ControlClient client(*m_clientBus, timeoutMs);
-    outcome.exitCode = arguments == QStringList{u"--hand-over"_s} ? client.handOver(out, err)
-                                                                  : client.run(CommandLine::parse(arguments), out, err);
-    return outcome;
-}
-
-void TestControlClient::everyCommandReachesItsOperation_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QStringList>("calls");
-
-    QTest::newRow("break") << QStringList{u"break"_s} << QStringList{u"takeBreakNow"_s};
-    QTest::newRow("break --long") << QStringList{u"break"_s, u"--long"_s} << QStringList{u"startLongBreak"_s};
-    QTest::newRow("pause") << QStringList{u"pause"_s} << QStringList{u"pauseFor 900"_s};
-    QTest::newRow("pause 25") << QStringList{u"pause"_s, u"25"_s} << QStringList{u"pauseFor 1500"_s};
-    QTest::newRow("resume") << QStringList{u"resume"_s} << QStringList{u"resume"_s};
-    QTest::newRow("skip") << QStringList{u"skip"_s} << QStringList{u"skipUpcomingBreak"_s};
-    QTest::newRow("enable") << QStringList{u"enable"_s} << QStringList{u"setRemindersEnabled true"_s};
-    QTest::newRow("disable") << QStringList{u"disable"_s} << QStringList{u"setRemindersEnabled false"_s};
-    QTest::newRow("settings") << QStringList{u"settings"_s} << QStringList{u"openSettings"_s};
-    QTest::newRow("status") << QStringList{u"status"_s} << QStringList{};
-}
-
-void TestControlClient::everyCommandReachesItsOperation()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QStringList, calls);
-    startInstance();
-
-    const Outcome outcome = run(arguments);
-    QCOMPARE(outcome.exitCode, ExitCode::success);
-    QCOMPARE(outcome.err, QString());
-    QCOMPARE(m_target.calls, calls);
-
-    // Quit is the one that acts only after it has answered.
-    QCOMPARE(run({u"quit"_s}).exitCode, ExitCode::success);
-    QTRY_COMPARE(m_target.calls, calls + QStringList{u"quit"_s});
-}
-
-void TestControlClient::statusShowsTheLineAndEachField()
-{
-    startInstance();
-    m_target.status = {u"24:59  Until next break"_s, u"24:59"_s, u"working"_s, {}, 1, true};
-    Outcome outcome = run({u"status"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::success);
-    QCOMPARE(outcome.err, QString());
-    QCOMPARE(outcome.out, u"24:59  Until next break\n"
-                          u"Time left:    24:59\n"
-                          u"State:        working\n"
-                          u"Pause reason: none\n"
-                          u"Breaks today: 1\n"
-                          u"Reminders:    on\n"_s);
-
-    m_target.status = {u"Breaks disabled"_s, u"—"_s, u"idle"_s, u"appDisabled"_s, 4, false};
-    QCOMPARE(run({u"status"_s}).out, u"Breaks disabled\n"
-                                     u"Time left:    —\n"
-                                     u"State:        idle\n"
-                                     u"Pause reason: appDisabled\n"
-                                     u"Breaks today: 4\n"
-                                     u"Reminders:    off\n"_s);
-    QVERIFY(m_target.calls.isEmpty());
-}
-
-void TestControlClient::statusAsJson()
-{
-    startInstance();
-    m_target.status = {u"12:00  Paused · resumes in 15 min"_s, u"12:00"_s, u"paused"_s, u"manuallyPaused"_s, 2, true};
-    Outcome outcome = run({u"status"_s, u"--json"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::success);
-    QVERIFY(outcome.out.endsWith(u'\n'));
-    QCOMPARE(outcome.out.count(u'\n'), 1); // one line, for scripts
-    QJsonParseError error;
-    QJsonObject json = QJsonDocument::fromJson(outcome.out.toUtf8(), &error).object();
-    QCOMPARE(error.error, QJsonParseError::NoError);
-    QCOMPARE(json, (QJsonObject{{u"statusLine"_s, m_target.status.statusLine},
-                                {u"timeText"_s, u"12:00"_s},
-                                {u"state"_s, u"paused"_s},
-                                {u"pauseReason"_s, u"manuallyPaused"_s},
-                                {u"breaksToday"_s, 2},
-                                {u"enabled"_s, true}}));
-
-    // No pause reason is null, not an empty string.
-    m_target.status = {u"Ready"_s, u"—"_s, u"idle"_s, {}, 0, true};
-    outcome = run({u"status"_s, u"--json"_s});
-    json = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
-    QVERIFY(json.value(u"pauseReason"_s).isNull());
-    QCOMPARE(json.value(u"timeText"_s).toString(), u"—"_s);
-}
-
-void TestControlClient::withoutAnInstanceEveryCommandFailsWithOneLine_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    for (const QString& command : {u"status"_s, u"break"_s, u"pause"_s, u"resume"_s, u"skip"_s, u"enable"_s,
-                                   u"disable"_s, u"settings"_s, u"quit"_s})
-        QTest::newRow(qPrintable(command)) << QStringList{command};
-    QTest::newRow("status --json") << QStringList{u"status"_s, u"--json"_s};
-}
-
-void TestControlClient::withoutAnInstanceEveryCommandFailsWithOneLine()
-{
-    QFETCH(QStringList, arguments);
-    QElapsedTimer elapsed;
-    elapsed.start();
-    const Outcome outcome = run(arguments);
-    QCOMPARE(outcome.exitCode, ExitCode::failure);
-    QCOMPARE(outcome.out, QString());
-    QCOMPARE(outcome.err, u"velto: Velto is not running\n"_s);
-    // Told at once by the bus, not found out by waiting.
-    QVERIFY(elapsed.elapsed() < 1000);
-}
-
-void TestControlClient::withoutABusNothingIsReached()
-{
-    Outcome outcome;
-    QTextStream out(&outcome.out);
-    QTextStream err(&outcome.err);
-    ControlClient client(QDBusConnection(u"never-connected"_s));
-    QCOMPARE(client.run(CommandLine::parse({u"status"_s}), out, err), ExitCode::failure);
-    QCOMPARE(outcome.err.count(u'\n'), 1);
-    QVERIFY(outcome.err.startsWith(u"velto: "_s));
-    QCOMPARE(outcome.out, QString());
-}
-
-void TestControlClient::settingsSaysWhenThereIsNoWindow()
-{
-    startInstance();
-    m_target.settingsAvailable = false;
-    Outcome outcome = run({u"settings"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::failure);
-    QCOMPARE(outcome.err, u"velto: the settings window is not available yet\n"_s);
-
-    m_target.settingsAvailable = true;
-    outcome = run({u"settings"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::success);
-    QCOMPARE(outcome.err, QString());
-    QCOMPARE(m_target.calls, (QStringList{u"openSettings"_s, u"openSettings"_s}));
-}
-
-void TestControlClient::handOverAsksTheRunningInstanceForItsSettings()
-{
-    Outcome outcome = run({u"--hand-over"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::failure);
-    QCOMPARE(outcome.err, u"velto: Velto is not running\n"_s);
-
-    startInstance();
-    outcome = run({u"--hand-over"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::success);
-    QCOMPARE(m_target.calls, QStringList{u"openSettings"_s});
-    QVERIFY(outcome.out.contains(u"already running"_s));
-    QVERIFY(outcome.out.contains(u"settings window is open"_s));
-
-    // Even without a window to show, the request was handed over: the second start has done its job.
-    m_target.settingsAvailable = false;
-    outcome = run({u"--hand-over"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::success);
-    QVERIFY(!outcome.out.contains(u"settings"_s));
-}
-
-void TestControlClient::aSilentInstanceIsGivenUpOnAfterTheTimeOut()
-{
-    const SilentInstance silent(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"instance"_s), false);
-    for (const QString& command : {u"status"_s, u"quit"_s}) {
-        QElapsedTimer elapsed;
-        elapsed.start();
-        const Outcome outcome = run({command}, 300);
-        QCOMPARE(outcome.exitCode, ExitCode::failure);
-        QCOMPARE(outcome.err, u"velto: Velto did not answer within 0.3 seconds\n"_s);
-        QVERIFY(elapsed.elapsed() >= 250);
-        QVERIFY(elapsed.elapsed() < 3000);
-    }
-}
-
-void TestControlClient::quitSucceedsWhenTheInstanceLeavesWithoutAnswering()
-{
-    const SilentInstance vanishing(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"instance"_s), true);
-    const Outcome outcome = run({u"quit"_s});
-    QCOMPARE(outcome.exitCode, ExitCode::success);
-    QCOMPARE(outcome.err, QString());
-}
 
 QTEST_GUILESS_MAIN(TestControlClient)
 #include "tst_controlclient.moc"

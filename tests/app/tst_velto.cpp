@@ -28,253 +28,215 @@ class TestVelto : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
+    void initTestCase()
+    {
+        QVERIFY2(QDBusConnection::sessionBus().isConnected(), "Run this test under dbus-run-session, as ctest does");
+        QVERIFY(m_home.isValid());
+    }
 
-    void helpVersionAndBadArgumentsNeedNoInstance();
-    void theRunningInstanceFollowsTheCommandLine();
-    void aSecondStartHandsOverAndLeavesTheFirstRunning();
-    void ofSeveralStartingAtOnceExactlyOneRuns();
-    void theCommandLineNeverStartsAGui();
-    void withoutASessionBusVeltoStillRuns();
-
-private:
-    [[nodiscard]] QProcessEnvironment environment() const;
-    [[nodiscard]] Result velto(const QStringList& arguments, const QProcessEnvironment& environment = {});
-    [[nodiscard]] QProcess* startInstance(const QProcessEnvironment& environment = {});
-    [[nodiscard]] QJsonObject status();
-    [[nodiscard]] uint ownerPid();
-    [[nodiscard]] bool isOwned();
-    void quitAndWait(QProcess* instance);
-
-    QTemporaryDir m_home;
-    std::vector<std::unique_ptr<QProcess>> m_instances;
-};
-
-void TestVelto::initTestCase()
-{
-    QVERIFY2(QDBusConnection::sessionBus().isConnected(), "Run this test under dbus-run-session, as ctest does");
-    QVERIFY(m_home.isValid());
-}
-
-void TestVelto::cleanup()
-{
-    for (const auto& instance : m_instances) {
-        if (instance->state() != QProcess::NotRunning) {
-            instance->kill();
-            instance->waitForFinished(5000);
+    void cleanup()
+    {
+        for (const auto& instance : m_instances) {
+            if (instance->state() != QProcess::NotRunning) {
+                instance->kill();
+                instance->waitForFinished(5000);
+            }
         }
+        m_instances.clear();
+        QTRY_VERIFY(!isOwned());
     }
-    m_instances.clear();
-    QTRY_VERIFY(!isOwned());
-}
 
-QProcessEnvironment TestVelto::environment() const
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"HOME"_s, m_home.path());
-    environment.insert(u"XDG_CONFIG_HOME"_s, m_home.filePath(u".config"_s));
-    environment.insert(u"XDG_DATA_HOME"_s, m_home.filePath(u".local/share"_s));
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-    environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
-    environment.insert(u"VELTO_TEST_SUITE"_s, u"1"_s);
-    return environment;
-}
+    void helpVersionAndBadArgumentsNeedNoInstance()
+    {
+        Result result = velto({u"--help"_s});
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY(result.out.startsWith(u"Usage: velto"_s));
+        QCOMPARE(result.err, QString());
 
-Result TestVelto::velto(const QStringList& arguments, const QProcessEnvironment& environment)
-{
-    QProcess process;
-    process.setProcessEnvironment(environment.isEmpty() ? this->environment() : environment);
-    process.start(QStringLiteral(VELTO_EXECUTABLE), arguments);
-    if (!process.waitForFinished(15000)) {
-        process.kill();
-        process.waitForFinished();
-        return {};
-    }
-    if (process.exitStatus() != QProcess::NormalExit)
-        return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
+        result = velto({u"--version"_s});
+        QCOMPARE(result.exitCode, 0);
+        QCOMPARE(result.out, u"velto " VELTO_VERSION "\n"_s);
 
-QProcess* TestVelto::startInstance(const QProcessEnvironment& environment)
-{
-    auto& instance = m_instances.emplace_back(std::make_unique<QProcess>());
-    instance->setProcessEnvironment(environment.isEmpty() ? this->environment() : environment);
-    instance->start(QStringLiteral(VELTO_EXECUTABLE), {});
-    return instance.get();
-}
-
-bool TestVelto::isOwned()
-{
-    return QDBusConnection::sessionBus().interface()->isServiceRegistered(velto::ControlBus::serviceName).value();
-}
-
-uint TestVelto::ownerPid()
-{
-    return QDBusConnection::sessionBus().interface()->servicePid(velto::ControlBus::serviceName).value();
-}
-
-QJsonObject TestVelto::status()
-{
-    const Result result = velto({u"status"_s, u"--json"_s});
-    if (result.exitCode != 0)
-        qWarning() << "velto status failed:" << result.err;
-    return QJsonDocument::fromJson(result.out.toUtf8()).object();
-}
-
-void TestVelto::quitAndWait(QProcess* instance)
-{
-    const Result result = velto({u"quit"_s});
-    QCOMPARE(result.exitCode, 0);
-    QVERIFY(instance->waitForFinished(10000));
-    QCOMPARE(instance->exitStatus(), QProcess::NormalExit);
-    QCOMPARE(instance->exitCode(), 0);
-    QVERIFY(!isOwned());
-}
-
-void TestVelto::helpVersionAndBadArgumentsNeedNoInstance()
-{
-    Result result = velto({u"--help"_s});
-    QCOMPARE(result.exitCode, 0);
-    QVERIFY(result.out.startsWith(u"Usage: velto"_s));
-    QCOMPARE(result.err, QString());
-
-    result = velto({u"--version"_s});
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.out, u"velto " VELTO_VERSION "\n"_s);
-
-    for (const QStringList& bad :
-         {QStringList{u"snooze"_s}, QStringList{u"pause"_s, u"0"_s}, QStringList{u"status"_s, u"--yaml"_s}}) {
-        result = velto(bad);
+        result = velto({u"pause"_s, u"0"_s});
         QCOMPARE(result.exitCode, 2);
         QCOMPARE(result.out, QString());
         QVERIFY2(result.err.startsWith(u"velto: "_s), qPrintable(result.err));
         QVERIFY(result.err.contains(u"Usage: velto"_s));
     }
-}
 
-void TestVelto::theRunningInstanceFollowsTheCommandLine()
-{
-    QProcess* instance = startInstance();
-    QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
-    QCOMPARE(ownerPid(), uint(instance->processId()));
+    void theRunningInstanceFollowsTheCommandLine()
+    {
+        QProcess* instance = startInstance();
+        QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
+        QCOMPARE(ownerPid(), uint(instance->processId()));
 
-    const Result result = velto({u"status"_s});
-    QCOMPARE(result.exitCode, 0);
-    QVERIFY2(result.out.contains(u"  Until next break\n"_s), qPrintable(result.out));
-    QVERIFY(result.out.contains(u"State:        working\n"_s));
+        const Result result = velto({u"status"_s});
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY2(result.out.contains(u"  Until next break\n"_s), qPrintable(result.out));
+        QVERIFY(result.out.contains(u"State:        working\n"_s));
 
-    QCOMPARE(velto({u"pause"_s, u"5"_s}).exitCode, 0);
-    QJsonObject json = status();
-    QCOMPARE(json.value(u"state"_s).toString(), u"paused"_s);
-    QCOMPARE(json.value(u"pauseReason"_s).toString(), u"manuallyPaused"_s);
-    QVERIFY2(json.value(u"statusLine"_s).toString().contains(u"resumes in 5 min"_s),
-             qPrintable(json.value(u"statusLine"_s).toString()));
+        QCOMPARE(velto({u"pause"_s, u"5"_s}).exitCode, 0);
+        const QJsonObject json = status();
+        QCOMPARE(json.value(u"state"_s).toString(), u"paused"_s);
+        QCOMPARE(json.value(u"pauseReason"_s).toString(), u"manuallyPaused"_s);
+        QVERIFY2(json.value(u"statusLine"_s).toString().contains(u"resumes in 5 min"_s),
+                 qPrintable(json.value(u"statusLine"_s).toString()));
 
-    QCOMPARE(velto({u"resume"_s}).exitCode, 0);
-    QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
+        QCOMPARE(velto({u"resume"_s}).exitCode, 0);
+        QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
 
-    QCOMPARE(velto({u"disable"_s}).exitCode, 0);
-    json = status();
-    QCOMPARE(json.value(u"enabled"_s).toBool(true), false);
-    QCOMPARE(json.value(u"pauseReason"_s).toString(), u"appDisabled"_s);
+        QCOMPARE(velto({u"break"_s}).exitCode, 0);
+        QCOMPARE(status().value(u"state"_s).toString(), u"onBreak"_s);
 
-    QCOMPARE(velto({u"enable"_s}).exitCode, 0);
-    QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
-
-    QCOMPARE(velto({u"break"_s}).exitCode, 0);
-    QCOMPARE(status().value(u"state"_s).toString(), u"onBreak"_s);
-    QCOMPARE(velto({u"skip"_s}).exitCode, 0);
-    QCOMPARE(status().value(u"state"_s).toString(), u"working"_s);
-
-    quitAndWait(instance);
-    const QString instanceErrors = QString::fromUtf8(instance->readAllStandardError());
-    QVERIFY2(!instanceErrors.contains(u"velto:"_s), qPrintable(instanceErrors));
-}
-
-void TestVelto::aSecondStartHandsOverAndLeavesTheFirstRunning()
-{
-    QProcess* first = startInstance();
-    QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
-
-    const Result second = velto({});
-    QCOMPARE(second.exitCode, 0);
-    QVERIFY2(second.out.contains(u"already running"_s), qPrintable(second.out + second.err));
-    QCOMPARE(first->state(), QProcess::Running);
-    QCOMPARE(ownerPid(), uint(first->processId()));
-    quitAndWait(first);
-}
-
-void TestVelto::ofSeveralStartingAtOnceExactlyOneRuns()
-{
-    QList<QProcess*> started;
-    for (int i = 0; i < 3; ++i)
-        started << startInstance();
-    const auto finished = [&started] {
-        return std::count_if(started.cbegin(), started.cend(),
-                             [](const QProcess* p) { return p->state() == QProcess::NotRunning; });
-    };
-    QTRY_COMPARE_WITH_TIMEOUT(finished(), qsizetype(2), 20000);
-    QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
-
-    QProcess* survivor = nullptr;
-    for (QProcess* process : started) {
-        if (process->state() != QProcess::NotRunning) {
-            survivor = process;
-            continue;
-        }
-        QCOMPARE(process->exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process->exitCode(), 0);
+        quitAndWait(instance);
+        const QString instanceErrors = QString::fromUtf8(instance->readAllStandardError());
+        QVERIFY2(!instanceErrors.contains(u"velto:"_s), qPrintable(instanceErrors));
     }
-    QVERIFY(survivor);
-    QCOMPARE(ownerPid(), uint(survivor->processId()));
-    quitAndWait(survivor);
-}
 
-void TestVelto::theCommandLineNeverStartsAGui()
-{
-    // A GUI application would abort on a platform that does not exist; the command line must not care.
-    QProcessEnvironment noDisplay = environment();
-    noDisplay.insert(u"QT_QPA_PLATFORM"_s, u"no-such-platform"_s);
-    noDisplay.remove(u"DISPLAY"_s);
-    noDisplay.remove(u"WAYLAND_DISPLAY"_s);
-    Result result = velto({u"status"_s}, noDisplay);
-    QCOMPARE(result.exitCode, 1);
-    QCOMPARE(result.out, QString());
-    QCOMPARE(result.err, u"velto: Velto is not running\n"_s);
-    // Asking never started one.
-    QVERIFY(!isOwned());
+    void aSecondStartHandsOverAndLeavesTheFirstRunning()
+    {
+        QProcess* first = startInstance();
+        QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
 
-    QProcess* instance = startInstance();
-    QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
-    result = velto({u"status"_s, u"--json"_s}, noDisplay);
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(QJsonDocument::fromJson(result.out.toUtf8()).object().value(u"state"_s).toString(), u"working"_s);
-    quitAndWait(instance);
-}
+        const Result second = velto({});
+        QCOMPARE(second.exitCode, 0);
+        QVERIFY2(second.out.contains(u"already running"_s), qPrintable(second.out + second.err));
+        QCOMPARE(first->state(), QProcess::Running);
+        QCOMPARE(ownerPid(), uint(first->processId()));
+        quitAndWait(first);
+    }
 
-void TestVelto::withoutASessionBusVeltoStillRuns()
-{
-    QProcessEnvironment noBus = environment();
-    noBus.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + m_home.filePath(u"no-bus-here"_s));
-    QProcess* instance = startInstance(noBus);
-    // It says once why only one instance cannot be promised, and keeps running.
-    QString errors;
-    const auto said = [&] {
-        errors += QString::fromUtf8(instance->readAllStandardError());
-        return errors.contains(u"velto: no session bus"_s);
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(said() || instance->state() == QProcess::NotRunning, 15000);
-    QCOMPARE(instance->state(), QProcess::Running);
-    QCOMPARE(errors.count(u"velto: "_s), 1);
-    QVERIFY(!isOwned());
+    void ofSeveralStartingAtOnceExactlyOneRuns()
+    {
+        QList<QProcess*> started;
+        for (int i = 0; i < 3; ++i)
+            started << startInstance();
+        const auto finished = [&started] {
+            return std::count_if(started.cbegin(), started.cend(),
+                                 [](const QProcess* p) { return p->state() == QProcess::NotRunning; });
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(finished(), qsizetype(2), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
 
-    const Result result = velto({u"status"_s}, noBus);
-    QCOMPARE(result.exitCode, 1);
-    QVERIFY(result.err.startsWith(u"velto: no session bus"_s));
-    QCOMPARE(instance->state(), QProcess::Running);
-}
+        QProcess* survivor = nullptr;
+        for (QProcess* process : started) {
+            if (process->state() != QProcess::NotRunning) {
+                survivor = process;
+                continue;
+            }
+            QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+            QCOMPARE(process->exitCode(), 0);
+        }
+        QVERIFY(survivor);
+        QCOMPARE(ownerPid(), uint(survivor->processId()));
+        quitAndWait(survivor);
+    }
+
+    void theCommandLineNeverStartsAGui()
+    {
+        // A GUI application would abort on a platform that does not exist; the command line must not care.
+        QProcessEnvironment noDisplay = environment();
+        noDisplay.insert(u"QT_QPA_PLATFORM"_s, u"no-such-platform"_s);
+        noDisplay.remove(u"DISPLAY"_s);
+        noDisplay.remove(u"WAYLAND_DISPLAY"_s);
+        const Result result = velto({u"status"_s}, noDisplay);
+        QCOMPARE(result.exitCode, 1);
+        QCOMPARE(result.out, QString());
+        QCOMPARE(result.err, u"velto: Velto is not running\n"_s);
+        // Asking never started one.
+        QVERIFY(!isOwned());
+    }
+
+    void withoutASessionBusVeltoStillRuns()
+    {
+        QProcessEnvironment noBus = environment();
+        noBus.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + m_home.filePath(u"no-bus-here"_s));
+        QProcess* instance = startInstance(noBus);
+        // It says once why only one instance cannot be promised, and keeps running.
+        QString errors;
+        const auto said = [&] {
+            errors += QString::fromUtf8(instance->readAllStandardError());
+            return errors.contains(u"velto: no session bus"_s);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(said() || instance->state() == QProcess::NotRunning, 15000);
+        QCOMPARE(instance->state(), QProcess::Running);
+        QCOMPARE(errors.count(u"velto: "_s), 1);
+        QVERIFY(!isOwned());
+
+        const Result result = velto({u"status"_s}, noBus);
+        QCOMPARE(result.exitCode, 1);
+        QVERIFY(result.err.startsWith(u"velto: no session bus"_s));
+        QCOMPARE(instance->state(), QProcess::Running);
+    }
+
+private:
+    [[nodiscard]] QProcessEnvironment environment() const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"HOME"_s, m_home.path());
+        environment.insert(u"XDG_CONFIG_HOME"_s, m_home.filePath(u".config"_s));
+        environment.insert(u"XDG_DATA_HOME"_s, m_home.filePath(u".local/share"_s));
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
+        environment.insert(u"VELTO_TEST_SUITE"_s, u"1"_s);
+        return environment;
+    }
+
+    [[nodiscard]] Result velto(const QStringList& arguments, const QProcessEnvironment& environment = {})
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment.isEmpty() ? this->environment() : environment);
+        process.start(QStringLiteral(VELTO_EXECUTABLE), arguments);
+        if (!process.waitForFinished(15000)) {
+            process.kill();
+            process.waitForFinished();
+            return {};
+        }
+        if (process.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    [[nodiscard]] QProcess* startInstance(const QProcessEnvironment& environment = {})
+    {
+        auto& instance = m_instances.emplace_back(std::make_unique<QProcess>());
+        instance->setProcessEnvironment(environment.isEmpty() ? this->environment() : environment);
+        instance->start(QStringLiteral(VELTO_EXECUTABLE), {});
+        return instance.get();
+    }
+
+    [[nodiscard]] QJsonObject status()
+    {
+        const Result result = velto({u"status"_s, u"--json"_s});
+        if (result.exitCode != 0)
+            qWarning() << "velto status failed:" << result.err;
+        return QJsonDocument::fromJson(result.out.toUtf8()).object();
+    }
+
+    [[nodiscard]] uint ownerPid()
+    {
+        return QDBusConnection::sessionBus().interface()->servicePid(velto::ControlBus::serviceName).value();
+    }
+
+    [[nodiscard]] bool isOwned()
+    {
+        return QDBusConnection::sessionBus().interface()->isServiceRegistered(velto::ControlBus::serviceName).value();
+    }
+
+    void quitAndWait(QProcess* instance)
+    {
+        const Result result = velto({u"quit"_s});
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY(instance->waitForFinished(10000));
+        QCOMPARE(instance->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(instance->exitCode(), 0);
+        QVERIFY(!isOwned());
+    }
+
+    QTemporaryDir m_home;
+    std::vector<std::unique_ptr<QProcess>> m_instances;
+};
 
 QTEST_GUILESS_MAIN(TestVelto)
 #include "tst_velto.moc"

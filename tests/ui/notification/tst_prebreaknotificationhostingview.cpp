@@ -62,208 +62,163 @@ class TestPreBreakNotificationHostingView : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void swipeMaths_data();
-    void swipeMaths();
-    void whatStartsASwipe_data();
-    void whatStartsASwipe();
-    void aFullWidthSwipeDismisses();
-    void aSwipeLetGoAtSixtyPercentSpringsBack_data();
-    void aSwipeLetGoAtSixtyPercentSpringsBack();
-    void naturalScrollingSwipesWithNegativeDeltas();
-    void scrollsThatAreNoLeftwardSwipeLeaveTheCardAlone();
-    void withoutScrollPhasesAPauseSeparatesGestures();
-    void aNewAnimationReplacesTheRunningOneWithoutItsEnding();
+    void whatStartsASwipe_data()
+    {
+        QTest::addColumn<bool>("pixels");
+        QTest::addColumn<QPointF>("delta");
+        QTest::addColumn<bool>("inverted");
+        QTest::addColumn<bool>("starts");
+        QTest::newRow("touchpad, leftwards") << true << QPointF(12, 3) << false << true;
+        QTest::newRow("touchpad, the other way") << true << QPointF(-12, 0) << false << false;
+        QTest::newRow("mouse wheel") << false << QPointF(12, 0) << false << false;
+        QTest::newRow("diagonal, as much down as across") << true << QPointF(10, 10) << false << false;
+        QTest::newRow("diagonal, more across") << true << QPointF(10, -9) << false << true;
+    }
+    void whatStartsASwipe()
+    {
+        QFETCH(bool, pixels);
+        QFETCH(QPointF, delta);
+        QFETCH(bool, inverted);
+        QFETCH(bool, starts);
+        QCOMPARE(NotificationSwipe::starts(pixels, delta, NotificationSwipe::direction(inverted)), starts);
+    }
+
+    void aFullWidthSwipeDismisses()
+    {
+        Rig rig;
+        QVERIFY(!rig.scroll({}, Qt::ScrollBegin));
+        QVERIFY(rig.scroll({200, 10}, Qt::ScrollUpdate));
+        QVERIFY(rig.host->isTracking());
+        QCOMPARE(rig.card->x(), -200.0);
+        // Past the full width the card stays at it.
+        QVERIFY(rig.scroll({480, 0}, Qt::ScrollUpdate));
+        QCOMPARE(rig.card->x(), -420.0);
+        QCOMPARE(rig.card->opacity(), 0.75);
+        QCOMPARE(rig.dismissals, 0);
+        QVERIFY(rig.scroll({}, Qt::ScrollEnd));
+        QCOMPARE(rig.dismissals, 1);
+        QVERIFY(!rig.host->isTracking());
+        // Momentum after the end is not a new swipe.
+        QVERIFY(!rig.scroll({30, 0}, Qt::ScrollMomentum));
+        QCOMPARE(rig.dismissals, 1);
+    }
+
+    void aSwipeLetGoAtSixtyPercentSpringsBack_data()
+    {
+        QTest::addColumn<bool>("reduceMotion");
+        QTest::addColumn<int>("milliseconds");
+        QTest::newRow("animations on") << false << 220;
+        QTest::newRow("reduced motion") << true << 140;
+    }
+    void aSwipeLetGoAtSixtyPercentSpringsBack()
+    {
+        QFETCH(bool, reduceMotion);
+        QFETCH(int, milliseconds);
+        Rig rig;
+        rig.host->setReduceMotion(reduceMotion);
+        rig.scroll({}, Qt::ScrollBegin);
+        rig.scroll({126, 0}, Qt::ScrollUpdate);
+        rig.scroll({126, 0}, Qt::ScrollUpdate);
+        QCOMPARE(rig.card->x(), -252.0);
+        QCOMPARE(rig.card->opacity(), 0.85);
+        rig.scroll({}, Qt::ScrollEnd);
+        QCOMPARE(rig.dismissals, 0);
+
+        QParallelAnimationGroup* back = rig.host->runningAnimation();
+        QVERIFY(back != nullptr);
+        QPropertyAnimation* slide = animationOf(back, "x");
+        QPropertyAnimation* fade = animationOf(back, "opacity");
+        QVERIFY(slide && fade);
+        QCOMPARE(slide->duration(), milliseconds);
+        QCOMPARE(slide->endValue().toDouble(), 0.0);
+        QCOMPARE(fade->endValue().toDouble(), 1.0);
+        QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
+        Rig::finish(back);
+        QCOMPARE(rig.card->x(), 0.0);
+        QCOMPARE(rig.card->opacity(), 1.0);
+    }
+
+    void naturalScrollingSwipesWithNegativeDeltas()
+    {
+        Rig rig;
+        rig.scroll({}, Qt::ScrollBegin, true);
+        QVERIFY(rig.scroll({-300, 0}, Qt::ScrollUpdate, true));
+        QCOMPARE(rig.card->x(), -300.0);
+        rig.scroll({-200, 0}, Qt::ScrollUpdate, true);
+        rig.scroll({}, Qt::ScrollEnd, true);
+        QCOMPARE(rig.dismissals, 1);
+
+        // Where the events cannot tell (X11), the desktop's touchpad setting says which way the fingers went.
+        Rig x11;
+        x11.host->setNaturalScrolling(true);
+        QVERIFY(!x11.scroll({120, 0}, Qt::NoScrollPhase, false, 1000));
+        QVERIFY(x11.scroll({-120, 0}, Qt::NoScrollPhase, false, 2000));
+        QCOMPARE(x11.card->x(), -120.0);
+    }
+
+    void scrollsThatAreNoLeftwardSwipeLeaveTheCardAlone()
+    {
+        Rig rig;
+        rig.scroll({}, Qt::ScrollBegin);
+        QVERIFY(!rig.scroll({6, 40}, Qt::ScrollUpdate));
+        // Once the gesture went vertical, turning sideways later does not make it a swipe.
+        QVERIFY(!rig.scroll({300, 0}, Qt::ScrollUpdate));
+        rig.scroll({}, Qt::ScrollEnd);
+        QCOMPARE(rig.card->x(), 0.0);
+        QCOMPARE(rig.card->opacity(), 1.0);
+        QVERIFY(!rig.host->isTracking());
+
+        // A swipe that starts leftwards and then reverses stops at the resting place, never right of it.
+        rig.scroll({}, Qt::ScrollBegin);
+        rig.scroll({50, 0}, Qt::ScrollUpdate);
+        rig.scroll({-200, 0}, Qt::ScrollUpdate);
+        QCOMPARE(rig.card->x(), 0.0);
+        QCOMPARE(rig.host->swipeProgress(), 0.0);
+    }
+
+    void withoutScrollPhasesAPauseSeparatesGestures()
+    {
+        Rig rig;
+        QVERIFY(rig.scroll({100, 0}, Qt::NoScrollPhase, false, 1000));
+        QVERIFY(rig.host->isTracking());
+        QVERIFY(rig.scroll({100, 0}, Qt::NoScrollPhase, false, 1016));
+        QCOMPARE(rig.card->x(), -200.0);
+        // The fingers lift: no more events, and the gap ends the gesture.
+        rig.host->endGesture();
+        QVERIFY(!rig.host->isTracking());
+        QCOMPARE(rig.dismissals, 0);
+        Rig::finish(rig.host->runningAnimation());
+
+        // An event right after another that was not a swipe does not start one mid-scroll.
+        QVERIFY(!rig.scroll({0, 30}, Qt::NoScrollPhase, false, 5000));
+        QVERIFY(!rig.scroll({100, 0}, Qt::NoScrollPhase, false, 5016));
+        QVERIFY(rig.scroll({420, 0}, Qt::NoScrollPhase, false,
+                           5016 + PreBreakNotificationHostingView::gestureGapMilliseconds));
+        rig.host->endGesture();
+        QCOMPARE(rig.dismissals, 1);
+
+        // A card on its way out takes no swipe: its fade must run to the end.
+        rig.host->setLeaving();
+        QVERIFY(!rig.scroll({420, 0}, Qt::NoScrollPhase, false, 9000));
+        QVERIFY(!rig.host->isTracking());
+    }
+
+    void aNewAnimationReplacesTheRunningOneWithoutItsEnding()
+    {
+        Rig rig;
+        QStringList endings;
+        rig.host->animateContent(-28, 0, 200, NotificationMotion::easeOut(),
+                                 [&] { endings.append(QStringLiteral("old")); });
+        QParallelAnimationGroup* old = rig.host->runningAnimation();
+        rig.host->animateContent(0, 1, 320, NotificationMotion::arrivalCurve(),
+                                 [&] { endings.append(QStringLiteral("new")); });
+        QVERIFY(rig.host->runningAnimation() != old);
+        Rig::finish(rig.host->runningAnimation());
+        QCOMPARE(endings, QStringList({QStringLiteral("new")}));
+        QCOMPARE(rig.card->x(), 0.0);
+        QCOMPARE(rig.card->opacity(), 1.0);
+    }
 };
-
-void TestPreBreakNotificationHostingView::swipeMaths_data()
-{
-    QTest::addColumn<double>("distance");
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<double>("progress");
-    QTest::addColumn<double>("offset");
-    QTest::addColumn<double>("opacity");
-    QTest::newRow("start") << 0.0 << 1 << 0.0 << 0.0 << 1.0;
-    QTest::newRow("sixty percent") << 252.0 << 1 << 0.6 << -252.0 << 0.85;
-    QTest::newRow("full width") << 420.0 << 1 << 1.0 << -420.0 << 0.75;
-    QTest::newRow("beyond is held at full") << 900.0 << 1 << 1.0 << -420.0 << 0.75;
-    QTest::newRow("backwards is held at zero") << -100.0 << 1 << 0.0 << 0.0 << 1.0;
-    QTest::newRow("natural scrolling half") << -210.0 << -1 << 0.5 << -210.0 << 0.875;
-    QTest::newRow("natural scrolling backwards") << 50.0 << -1 << 0.0 << 0.0 << 1.0;
-}
-
-void TestPreBreakNotificationHostingView::swipeMaths()
-{
-    QFETCH(double, distance);
-    QFETCH(int, direction);
-    QFETCH(double, progress);
-    QFETCH(double, offset);
-    QFETCH(double, opacity);
-    const double amount = NotificationSwipe::amount(distance, 420, direction);
-    QVERIFY(amount * direction >= 0 || amount == 0);
-    const double p = NotificationSwipe::progress(amount, direction);
-    QCOMPARE(p, progress);
-    QCOMPARE(NotificationSwipe::offset(p, 420) + 0.0, offset);
-    QCOMPARE(NotificationSwipe::opacity(p), opacity);
-}
-
-void TestPreBreakNotificationHostingView::whatStartsASwipe_data()
-{
-    QTest::addColumn<bool>("pixels");
-    QTest::addColumn<QPointF>("delta");
-    QTest::addColumn<bool>("inverted");
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("touchpad, leftwards") << true << QPointF(12, 3) << false << true;
-    QTest::newRow("touchpad, natural scrolling") << true << QPointF(-12, 3) << true << true;
-    QTest::newRow("touchpad, the other way") << true << QPointF(-12, 0) << false << false;
-    QTest::newRow("mouse wheel") << false << QPointF(12, 0) << false << false;
-    QTest::newRow("diagonal, as much down as across") << true << QPointF(10, 10) << false << false;
-    QTest::newRow("diagonal, more across") << true << QPointF(10, -9) << false << true;
-}
-
-void TestPreBreakNotificationHostingView::whatStartsASwipe()
-{
-    QFETCH(bool, pixels);
-    QFETCH(QPointF, delta);
-    QFETCH(bool, inverted);
-    QFETCH(bool, starts);
-    QCOMPARE(NotificationSwipe::starts(pixels, delta, NotificationSwipe::direction(inverted)), starts);
-}
-
-void TestPreBreakNotificationHostingView::aFullWidthSwipeDismisses()
-{
-    Rig rig;
-    QVERIFY(!rig.scroll({}, Qt::ScrollBegin));
-    QVERIFY(rig.scroll({200, 10}, Qt::ScrollUpdate));
-    QVERIFY(rig.host->isTracking());
-    QCOMPARE(rig.card->x(), -200.0);
-    QVERIFY(rig.scroll({220, 0}, Qt::ScrollUpdate));
-    QCOMPARE(rig.card->x(), -420.0);
-    QCOMPARE(rig.card->opacity(), 0.75);
-    QCOMPARE(rig.dismissals, 0);
-    QVERIFY(rig.scroll({}, Qt::ScrollEnd));
-    QCOMPARE(rig.dismissals, 1);
-    QVERIFY(!rig.host->isTracking());
-    // Momentum after the end is not a new swipe.
-    QVERIFY(!rig.scroll({30, 0}, Qt::ScrollMomentum));
-    QCOMPARE(rig.dismissals, 1);
-}
-
-void TestPreBreakNotificationHostingView::aSwipeLetGoAtSixtyPercentSpringsBack_data()
-{
-    QTest::addColumn<bool>("reduceMotion");
-    QTest::addColumn<int>("milliseconds");
-    QTest::newRow("animations on") << false << 220;
-    QTest::newRow("reduced motion") << true << 140;
-}
-
-void TestPreBreakNotificationHostingView::aSwipeLetGoAtSixtyPercentSpringsBack()
-{
-    QFETCH(bool, reduceMotion);
-    QFETCH(int, milliseconds);
-    Rig rig;
-    rig.host->setReduceMotion(reduceMotion);
-    rig.scroll({}, Qt::ScrollBegin);
-    rig.scroll({126, 0}, Qt::ScrollUpdate);
-    rig.scroll({126, 0}, Qt::ScrollUpdate);
-    QCOMPARE(rig.card->x(), -252.0);
-    QCOMPARE(rig.card->opacity(), 0.85);
-    rig.scroll({}, Qt::ScrollEnd);
-    QCOMPARE(rig.dismissals, 0);
-
-    QParallelAnimationGroup* back = rig.host->runningAnimation();
-    QVERIFY(back != nullptr);
-    QPropertyAnimation* slide = animationOf(back, "x");
-    QPropertyAnimation* fade = animationOf(back, "opacity");
-    QVERIFY(slide && fade);
-    QCOMPARE(slide->duration(), milliseconds);
-    QCOMPARE(slide->endValue().toDouble(), 0.0);
-    QCOMPARE(fade->endValue().toDouble(), 1.0);
-    QCOMPARE(slide->easingCurve(), NotificationMotion::easeOut());
-    Rig::finish(back);
-    QCOMPARE(rig.card->x(), 0.0);
-    QCOMPARE(rig.card->opacity(), 1.0);
-}
-
-void TestPreBreakNotificationHostingView::naturalScrollingSwipesWithNegativeDeltas()
-{
-    Rig rig;
-    rig.scroll({}, Qt::ScrollBegin, true);
-    QVERIFY(rig.scroll({-300, 0}, Qt::ScrollUpdate, true));
-    QCOMPARE(rig.card->x(), -300.0);
-    rig.scroll({-200, 0}, Qt::ScrollUpdate, true);
-    rig.scroll({}, Qt::ScrollEnd, true);
-    QCOMPARE(rig.dismissals, 1);
-
-    // Where the events cannot tell (X11), the desktop's touchpad setting says which way the fingers went.
-    Rig x11;
-    x11.host->setNaturalScrolling(true);
-    QVERIFY(!x11.scroll({120, 0}, Qt::NoScrollPhase, false, 1000));
-    QVERIFY(x11.scroll({-120, 0}, Qt::NoScrollPhase, false, 2000));
-    QCOMPARE(x11.card->x(), -120.0);
-}
-
-void TestPreBreakNotificationHostingView::scrollsThatAreNoLeftwardSwipeLeaveTheCardAlone()
-{
-    Rig rig;
-    rig.scroll({}, Qt::ScrollBegin);
-    QVERIFY(!rig.scroll({6, 40}, Qt::ScrollUpdate));
-    // Once the gesture went vertical, turning sideways later does not make it a swipe.
-    QVERIFY(!rig.scroll({300, 0}, Qt::ScrollUpdate));
-    rig.scroll({}, Qt::ScrollEnd);
-    QCOMPARE(rig.card->x(), 0.0);
-    QCOMPARE(rig.card->opacity(), 1.0);
-    QVERIFY(!rig.host->isTracking());
-
-    // A swipe that starts leftwards and then reverses stops at the resting place, never right of it.
-    rig.scroll({}, Qt::ScrollBegin);
-    rig.scroll({50, 0}, Qt::ScrollUpdate);
-    rig.scroll({-200, 0}, Qt::ScrollUpdate);
-    QCOMPARE(rig.card->x(), 0.0);
-    QCOMPARE(rig.host->swipeProgress(), 0.0);
-}
-
-void TestPreBreakNotificationHostingView::withoutScrollPhasesAPauseSeparatesGestures()
-{
-    Rig rig;
-    QVERIFY(rig.scroll({100, 0}, Qt::NoScrollPhase, false, 1000));
-    QVERIFY(rig.host->isTracking());
-    QVERIFY(rig.scroll({100, 0}, Qt::NoScrollPhase, false, 1016));
-    QCOMPARE(rig.card->x(), -200.0);
-    // The fingers lift: no more events, and the gap ends the gesture.
-    rig.host->endGesture();
-    QVERIFY(!rig.host->isTracking());
-    QCOMPARE(rig.dismissals, 0);
-    Rig::finish(rig.host->runningAnimation());
-
-    // An event right after another that was not a swipe does not start one mid-scroll.
-    QVERIFY(!rig.scroll({0, 30}, Qt::NoScrollPhase, false, 5000));
-    QVERIFY(!rig.scroll({100, 0}, Qt::NoScrollPhase, false, 5016));
-    QVERIFY(
-        rig.scroll({420, 0}, Qt::NoScrollPhase, false, 5016 + PreBreakNotificationHostingView::gestureGapMilliseconds));
-    rig.host->endGesture();
-    QCOMPARE(rig.dismissals, 1);
-
-    // A card on its way out takes no swipe: its fade must run to the end.
-    rig.host->setLeaving();
-    QVERIFY(!rig.scroll({420, 0}, Qt::NoScrollPhase, false, 9000));
-    QVERIFY(!rig.host->isTracking());
-}
-
-void TestPreBreakNotificationHostingView::aNewAnimationReplacesTheRunningOneWithoutItsEnding()
-{
-    Rig rig;
-    QStringList endings;
-    rig.host->animateContent(-28, 0, 200, NotificationMotion::easeOut(),
-                             [&] { endings.append(QStringLiteral("old")); });
-    QParallelAnimationGroup* old = rig.host->runningAnimation();
-    rig.host->animateContent(0, 1, 320, NotificationMotion::arrivalCurve(),
-                             [&] { endings.append(QStringLiteral("new")); });
-    QVERIFY(rig.host->runningAnimation() != old);
-    Rig::finish(rig.host->runningAnimation());
-    QCOMPARE(endings, QStringList({QStringLiteral("new")}));
-    QCOMPARE(rig.card->x(), 0.0);
-    QCOMPARE(rig.card->opacity(), 1.0);
-}
 
 QTEST_MAIN(TestPreBreakNotificationHostingView)
 #include "tst_prebreaknotificationhostingview.moc"

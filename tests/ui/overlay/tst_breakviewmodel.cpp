@@ -58,250 +58,227 @@ class TestBreakViewModel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void skipAndEndBreakFollowDifficultyAndEarlyEnd_data();
-    void skipAndEndBreakFollowDifficultyAndEarlyEnd();
-    void balancedSkipWaitsTwoSeconds();
-    void timeTextAndProgressFollowTheScheduler();
-    void emptyCustomMessagesFallBackByBreakType_data();
-    void emptyCustomMessagesFallBackByBreakType();
-    void customMessagesArePickedFromTheUsersList();
-    void dimLayerIsTheRestOfTheOverlayOpacity_data();
-    void dimLayerIsTheRestOfTheOverlayOpacity();
-    void onlyGradientAndPaperDarkAreDark_data();
-    void onlyGradientAndPaperDarkAreDark();
-    void backgroundsAndTheirFallbacks();
-};
+    void skipAndEndBreakFollowDifficultyAndEarlyEnd_data()
+    {
+        QTest::addColumn<SkipDifficulty>("difficulty");
+        QTest::addColumn<bool>("allowEarlyEnd");
+        QTest::addColumn<bool>("skipPresent");
+        QTest::addColumn<bool>("usableAtOnce");
+        QTest::addColumn<bool>("endBreakAtHalf");
 
-void TestBreakViewModel::skipAndEndBreakFollowDifficultyAndEarlyEnd_data()
-{
-    QTest::addColumn<SkipDifficulty>("difficulty");
-    QTest::addColumn<bool>("allowEarlyEnd");
-    QTest::addColumn<bool>("skipPresent");
-    QTest::addColumn<bool>("usableAtOnce");
-    QTest::addColumn<bool>("endBreakAtHalf");
+        QTest::newRow("casual, no early end") << SkipDifficulty::Casual << false << true << true << false;
+        QTest::newRow("balanced, no early end") << SkipDifficulty::Balanced << false << true << false << false;
+        QTest::newRow("hardcore, early end") << SkipDifficulty::Hardcore << true << true << true << true;
+        QTest::newRow("hardcore, no early end") << SkipDifficulty::Hardcore << false << false << false << false;
+    }
+    void skipAndEndBreakFollowDifficultyAndEarlyEnd()
+    {
+        QFETCH(SkipDifficulty, difficulty);
+        QFETCH(bool, allowEarlyEnd);
+        QFETCH(bool, skipPresent);
+        QFETCH(bool, usableAtOnce);
+        QFETCH(bool, endBreakAtHalf);
 
-    QTest::newRow("casual, early end") << SkipDifficulty::Casual << true << true << true << true;
-    QTest::newRow("casual, no early end") << SkipDifficulty::Casual << false << true << true << false;
-    QTest::newRow("balanced, early end") << SkipDifficulty::Balanced << true << true << true << true;
-    QTest::newRow("balanced, no early end") << SkipDifficulty::Balanced << false << true << false << false;
-    QTest::newRow("hardcore, early end") << SkipDifficulty::Hardcore << true << true << true << true;
-    QTest::newRow("hardcore, no early end") << SkipDifficulty::Hardcore << false << false << false << false;
-}
+        Rig rig(difficulty, allowEarlyEnd);
+        rig.startBreak(BreakType::Short);
+        BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
+        model.start();
 
-void TestBreakViewModel::skipAndEndBreakFollowDifficultyAndEarlyEnd()
-{
-    QFETCH(SkipDifficulty, difficulty);
-    QFETCH(bool, allowEarlyEnd);
-    QFETCH(bool, skipPresent);
-    QFETCH(bool, usableAtOnce);
-    QFETCH(bool, endBreakAtHalf);
+        QCOMPARE(model.skipPresent(), skipPresent);
+        QCOMPARE(model.skipUsable(), usableAtOnce);
+        QVERIFY(!model.endBreakPresent());
+        if (!usableAtOnce) {
+            model.skip(); // not usable: nothing happens
+            QCOMPARE(rig.breaks.state(), BreakState::OnBreak);
+        }
 
-    Rig rig(difficulty, allowEarlyEnd);
-    rig.startBreak(BreakType::Short);
-    BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
-    model.start();
-
-    QCOMPARE(model.skipPresent(), skipPresent);
-    QCOMPARE(model.skipUsable(), usableAtOnce);
-    QVERIFY(!model.endBreakPresent());
-    if (!usableAtOnce) {
-        model.skip(); // not usable: nothing happens
+        rig.ticks(9); // 11 of 20 s left
+        QVERIFY(!model.endBreakPresent());
+        model.endBreak(); // too early for the scheduler: nothing happens
         QCOMPARE(rig.breaks.state(), BreakState::OnBreak);
+        rig.ticks(1); // exactly half
+        QCOMPARE(model.endBreakPresent(), endBreakAtHalf);
+        rig.ticks(5);
+        QCOMPARE(model.endBreakPresent(), endBreakAtHalf);
+        QCOMPARE(model.skipPresent(), skipPresent);
+
+        // Ending counts the break; skipping does not.
+        if (endBreakAtHalf)
+            model.endBreak();
+        else if (usableAtOnce)
+            model.skip();
+        else
+            return;
+        QVERIFY(rig.breaks.state() != BreakState::OnBreak);
+        QCOMPARE(rig.breaks.dailyBreakCount(), endBreakAtHalf ? 1 : 0);
     }
 
-    rig.ticks(9); // 11 of 20 s left
-    QVERIFY(!model.endBreakPresent());
-    model.endBreak(); // too early for the scheduler: nothing happens
-    QCOMPARE(rig.breaks.state(), BreakState::OnBreak);
-    rig.ticks(1); // exactly half
-    QCOMPARE(model.endBreakPresent(), endBreakAtHalf);
-    rig.ticks(5);
-    QCOMPARE(model.endBreakPresent(), endBreakAtHalf);
-    QCOMPARE(model.skipPresent(), skipPresent);
+    void balancedSkipWaitsTwoSeconds()
+    {
+        Rig rig(SkipDifficulty::Balanced, false);
+        rig.startBreak(BreakType::Short);
+        BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
+        QSignalSpy changes(&model, &BreakViewModel::skipChanged);
 
-    // Ending counts the break; skipping does not.
-    if (endBreakAtHalf)
-        model.endBreak();
-    else if (usableAtOnce)
-        model.skip();
-    else
-        return;
-    QVERIFY(rig.breaks.state() != BreakState::OnBreak);
-    QCOMPARE(rig.breaks.dailyBreakCount(), endBreakAtHalf ? 1 : 0);
-}
-
-void TestBreakViewModel::balancedSkipWaitsTwoSeconds()
-{
-    Rig rig(SkipDifficulty::Balanced, false);
-    rig.startBreak(BreakType::Short);
-    BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
-    QSignalSpy changes(&model, &BreakViewModel::skipChanged);
-
-    // The delay counts from the moment the screen is up, not from construction.
-    QTest::qWait(300);
-    QElapsedTimer shown;
-    shown.start();
-    model.start();
-    model.start(); // a second call must not restart or double the delay
-    QVERIFY(model.skipPresent());
-    QVERIFY(!model.skipUsable());
-    QTest::qWait(1700);
-    QVERIFY2(!model.skipUsable(), "usable before 2 s");
-    QTRY_VERIFY_WITH_TIMEOUT(model.skipUsable(), 1500);
-    QVERIFY(shown.elapsed() >= 2000);
-    QCOMPARE(changes.count(), 1);
-}
-
-void TestBreakViewModel::timeTextAndProgressFollowTheScheduler()
-{
-    Rig rig;
-    rig.startBreak(BreakType::Long);
-    BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Long);
-    QSignalSpy ticks(&model, &BreakViewModel::breakTimeChanged);
-    QCOMPARE(model.timeText(), u"5:00"_s);
-    QCOMPARE(model.progress(), 0.0);
-    rig.ticks(1);
-    QCOMPARE(model.timeText(), u"4:59"_s);
-    // Ending early becomes possible at half of the long break too.
-    rig.ticks(148);
-    QCOMPARE(model.timeText(), u"2:31"_s);
-    QVERIFY(!model.endBreakPresent());
-    rig.ticks(1);
-    QCOMPARE(model.timeText(), u"2:30"_s);
-    QVERIFY(model.endBreakPresent());
-    QCOMPARE(ticks.count(), 150);
-    rig.ticks(91);
-    QCOMPARE(model.timeText(), u"59"_s);
-    QCOMPARE(model.progress(), 241.0 / 300.0);
-
-    // A view built for a short break measures against the short duration even on a long one.
-    BreakViewModel shortView(&rig.settings, &rig.breaks, BreakType::Short);
-    QCOMPARE(shortView.progress(), 0.0); // 59 s left of a 20 s break: clamped, never negative
-
-    BreakConfiguration zero = rig.settings.breakConfiguration();
-    zero.longBreakDuration = 0;
-    rig.settings.setBreakConfiguration(zero);
-    QCOMPARE(model.progress(), 0.0);
-}
-
-void TestBreakViewModel::emptyCustomMessagesFallBackByBreakType_data()
-{
-    QTest::addColumn<BreakType>("type");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("short") << BreakType::Short << BreakViewModel::shortBreakFallbackMessages;
-    QTest::newRow("long") << BreakType::Long << BreakViewModel::longBreakFallbackMessages;
-}
-
-void TestBreakViewModel::emptyCustomMessagesFallBackByBreakType()
-{
-    QFETCH(BreakType, type);
-    QFETCH(QStringList, expected);
-
-    Rig rig;
-    rig.appearance([](BreakAppearance& a) { a.customMessages.clear(); });
-    QSet<QString> seen;
-    for (int i = 0; i < 200; ++i) {
-        BreakViewModel model(&rig.settings, &rig.breaks, type);
-        QVERIFY2(expected.contains(model.message()), qPrintable(model.message()));
-        seen.insert(model.message());
+        // The delay counts from the moment the screen is up, not from construction.
+        QTest::qWait(300);
+        QElapsedTimer shown;
+        shown.start();
+        model.start();
+        model.start(); // a second call must not restart or double the delay
+        QVERIFY(model.skipPresent());
+        QVERIFY(!model.skipUsable());
+        QTest::qWait(1700);
+        QVERIFY2(!model.skipUsable(), "usable before 2 s");
+        QTRY_VERIFY_WITH_TIMEOUT(model.skipUsable(), 1500);
+        QVERIFY(shown.elapsed() >= 2000);
+        QCOMPARE(changes.count(), 1);
     }
-    QCOMPARE(seen.size(), 5);
-    QCOMPARE(expected.size(), 5);
-}
 
-void TestBreakViewModel::customMessagesArePickedFromTheUsersList()
-{
-    Rig rig;
-    const QStringList mine = {u"Water the plants"_s, u"Roll your shoulders"_s};
-    rig.appearance([&](BreakAppearance& a) { a.customMessages = mine; });
-    QSet<QString> seen;
-    for (int i = 0; i < 100; ++i)
-        seen.insert(BreakViewModel(&rig.settings, &rig.breaks, BreakType::Long).message());
-    QCOMPARE(seen, QSet<QString>(mine.begin(), mine.end()));
+    void timeTextAndProgressFollowTheScheduler()
+    {
+        Rig rig;
+        rig.startBreak(BreakType::Long);
+        BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Long);
+        QSignalSpy ticks(&model, &BreakViewModel::breakTimeChanged);
+        QCOMPARE(model.timeText(), u"5:00"_s);
+        QCOMPARE(model.progress(), 0.0);
+        // Ending early becomes possible at half of the long break too.
+        rig.ticks(149);
+        QCOMPARE(model.timeText(), u"2:31"_s);
+        QVERIFY(!model.endBreakPresent());
+        rig.ticks(1);
+        QCOMPARE(model.timeText(), u"2:30"_s);
+        QVERIFY(model.endBreakPresent());
+        QCOMPARE(ticks.count(), 150);
+        rig.ticks(91);
+        QCOMPARE(model.timeText(), u"59"_s);
+        QCOMPARE(model.progress(), 241.0 / 300.0);
 
-    // A shown message stays when the list changes.
-    rig.appearance([](BreakAppearance& a) { a.customMessages = {u"First"_s}; });
-    BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
-    rig.appearance([](BreakAppearance& a) { a.customMessages = {u"Second"_s}; });
-    QCOMPARE(model.message(), u"First"_s);
-}
+        // A view built for a short break measures against the short duration even on a long one.
+        BreakViewModel shortView(&rig.settings, &rig.breaks, BreakType::Short);
+        QCOMPARE(shortView.progress(), 0.0); // 59 s left of a 20 s break: clamped, never negative
 
-void TestBreakViewModel::dimLayerIsTheRestOfTheOverlayOpacity_data()
-{
-    QTest::addColumn<double>("overlayOpacity");
-    QTest::addColumn<double>("dim");
-    QTest::newRow("undimmed") << 1.0 << 0.0;
-    QTest::newRow("0.6") << 0.6 << 0.4;
-    QTest::newRow("above range") << 1.5 << 0.0;
-    QTest::newRow("below range") << -0.5 << 1.0;
-    QTest::newRow("nan") << std::numeric_limits<double>::quiet_NaN() << 0.0;
-}
+        BreakConfiguration zero = rig.settings.breakConfiguration();
+        zero.longBreakDuration = 0;
+        rig.settings.setBreakConfiguration(zero);
+        QCOMPARE(model.progress(), 0.0);
+    }
 
-void TestBreakViewModel::dimLayerIsTheRestOfTheOverlayOpacity()
-{
-    QFETCH(double, overlayOpacity);
-    QFETCH(double, dim);
-    Rig rig;
-    BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
-    QSignalSpy changed(&model, &BreakViewModel::appearanceChanged);
-    rig.appearance([&](BreakAppearance& a) { a.overlayOpacity = overlayOpacity; });
-    QVERIFY(qFuzzyCompare(1.0 + model.dimOpacity(), 1.0 + dim));
-    QCOMPARE(changed.count(), 1);
-}
+    void emptyCustomMessagesFallBackByBreakType_data()
+    {
+        QTest::addColumn<BreakType>("type");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("short") << BreakType::Short << BreakViewModel::shortBreakFallbackMessages;
+        QTest::newRow("long") << BreakType::Long << BreakViewModel::longBreakFallbackMessages;
+    }
+    void emptyCustomMessagesFallBackByBreakType()
+    {
+        QFETCH(BreakType, type);
+        QFETCH(QStringList, expected);
 
-void TestBreakViewModel::onlyGradientAndPaperDarkAreDark_data()
-{
-    QTest::addColumn<BackgroundType>("type");
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("paperLight") << BackgroundType::PaperLight << false;
-    QTest::newRow("gradient") << BackgroundType::Gradient << true;
-    QTest::newRow("paperDark") << BackgroundType::PaperDark << true;
-    QTest::newRow("solidColor") << BackgroundType::SolidColor << false;
-    QTest::newRow("customImage") << BackgroundType::CustomImage << false;
-    QTest::newRow("systemWallpaper") << BackgroundType::SystemWallpaper << false;
-}
+        Rig rig;
+        rig.appearance([](BreakAppearance& a) { a.customMessages.clear(); });
+        QSet<QString> seen;
+        for (int i = 0; i < 200; ++i) {
+            BreakViewModel model(&rig.settings, &rig.breaks, type);
+            QVERIFY2(expected.contains(model.message()), qPrintable(model.message()));
+            seen.insert(model.message());
+        }
+        QCOMPARE(seen.size(), 5);
+        QCOMPARE(expected.size(), 5);
+    }
 
-void TestBreakViewModel::onlyGradientAndPaperDarkAreDark()
-{
-    QFETCH(BackgroundType, type);
-    QFETCH(bool, dark);
-    Rig rig;
-    // A black solid colour still keeps the dark grey ink.
-    rig.appearance([&](BreakAppearance& a) {
-        a.backgroundType = type;
-        a.backgroundColor = {0, 0, 0, 1};
-        a.gradientTheme = GradientTheme::Sunset;
-    });
-    BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
-    QCOMPARE(model.isDarkBackground(), dark);
-    QCOMPARE(model.inkColor(), dark ? QColor(Qt::white) : QColor::fromRgbF(0.18f, 0.18f, 0.18f));
-    QCOMPARE(model.controlColor(), dark ? QColor(Qt::white) : QColor(Qt::black));
-}
+    void customMessagesArePickedFromTheUsersList()
+    {
+        Rig rig;
+        const QStringList mine = {u"Water the plants"_s, u"Roll your shoulders"_s};
+        rig.appearance([&](BreakAppearance& a) { a.customMessages = mine; });
+        QSet<QString> seen;
+        for (int i = 0; i < 100; ++i)
+            seen.insert(BreakViewModel(&rig.settings, &rig.breaks, BreakType::Long).message());
+        QCOMPARE(seen, QSet<QString>(mine.begin(), mine.end()));
 
-void TestBreakViewModel::backgroundsAndTheirFallbacks()
-{
-    Rig rig;
-    rig.appearance([](BreakAppearance& a) {
-        a.backgroundType = BackgroundType::CustomImage;
-        a.gradientTheme = GradientTheme::Aurora;
-    });
-    BreakViewModel missing(&rig.settings, &rig.breaks, BreakType::Short);
-    QCOMPARE(missing.background(), BreakViewModel::Background::Gradient);
-    QCOMPARE(missing.gradientStops().size(), 4); // aurora's four stops stand in
+        // A shown message stays when the list changes.
+        rig.appearance([](BreakAppearance& a) { a.customMessages = {u"First"_s}; });
+        BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
+        rig.appearance([](BreakAppearance& a) { a.customMessages = {u"Second"_s}; });
+        QCOMPARE(model.message(), u"First"_s);
+    }
 
-    BreakViewModel withImage(&rig.settings, &rig.breaks, BreakType::Short, QUrl(u"image://test/1"_s));
-    QCOMPARE(withImage.background(), BreakViewModel::Background::Image);
+    void dimLayerIsTheRestOfTheOverlayOpacity_data()
+    {
+        QTest::addColumn<double>("overlayOpacity");
+        QTest::addColumn<double>("dim");
+        QTest::newRow("undimmed") << 1.0 << 0.0;
+        QTest::newRow("0.6") << 0.6 << 0.4;
+        QTest::newRow("above range") << 1.5 << 0.0;
+        QTest::newRow("below range") << -0.5 << 1.0;
+        QTest::newRow("nan") << std::numeric_limits<double>::quiet_NaN() << 0.0;
+    }
+    void dimLayerIsTheRestOfTheOverlayOpacity()
+    {
+        QFETCH(double, overlayOpacity);
+        QFETCH(double, dim);
+        Rig rig;
+        BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
+        QSignalSpy changed(&model, &BreakViewModel::appearanceChanged);
+        rig.appearance([&](BreakAppearance& a) { a.overlayOpacity = overlayOpacity; });
+        QVERIFY(qFuzzyCompare(1.0 + model.dimOpacity(), 1.0 + dim));
+        QCOMPARE(changed.count(), 1);
+    }
 
-    rig.appearance([](BreakAppearance& a) { a.backgroundType = BackgroundType::PaperLight; });
-    QCOMPARE(withImage.background(), BreakViewModel::Background::Gradient);
+    void onlyGradientAndPaperDarkAreDark_data()
+    {
+        QTest::addColumn<BackgroundType>("type");
+        QTest::addColumn<bool>("dark");
+        QTest::newRow("gradient") << BackgroundType::Gradient << true;
+        QTest::newRow("paperDark") << BackgroundType::PaperDark << true;
+        QTest::newRow("solidColor") << BackgroundType::SolidColor << false;
+        QTest::newRow("customImage") << BackgroundType::CustomImage << false;
+    }
+    void onlyGradientAndPaperDarkAreDark()
+    {
+        QFETCH(BackgroundType, type);
+        QFETCH(bool, dark);
+        Rig rig;
+        // A black solid colour still keeps the dark grey ink.
+        rig.appearance([&](BreakAppearance& a) {
+            a.backgroundType = type;
+            a.backgroundColor = {0, 0, 0, 1};
+            a.gradientTheme = GradientTheme::Sunset;
+        });
+        BreakViewModel model(&rig.settings, &rig.breaks, BreakType::Short);
+        QCOMPARE(model.isDarkBackground(), dark);
+        QCOMPARE(model.inkColor(), dark ? QColor(Qt::white) : QColor::fromRgbF(0.18f, 0.18f, 0.18f));
+        QCOMPARE(model.controlColor(), dark ? QColor(Qt::white) : QColor(Qt::black));
+    }
 
-    rig.appearance([](BreakAppearance& a) {
-        a.backgroundType = BackgroundType::SolidColor;
-        a.backgroundColor = {0.2, 0.4, 0.6, 0.85};
-    });
-    QCOMPARE(withImage.background(), BreakViewModel::Background::Solid);
-    QCOMPARE(withImage.solidColor(), QColor::fromRgbF(0.2f, 0.4f, 0.6f, 0.85f));
-}
+    void backgroundsAndTheirFallbacks()
+    {
+        Rig rig;
+        rig.appearance([](BreakAppearance& a) {
+            a.backgroundType = BackgroundType::CustomImage;
+            a.gradientTheme = GradientTheme::Aurora;
+        });
+        BreakViewModel missing(&rig.settings, &rig.breaks, BreakType::Short);
+        QCOMPARE(missing.background(), BreakViewModel::Background::Gradient);
+        QCOMPARE(missing.gradientStops().size(), 4); // aurora's four stops stand in
+
+        BreakViewModel withImage(&rig.settings, &rig.breaks, BreakType::Short, QUrl(u"image://test/1"_s));
+        QCOMPARE(withImage.background(), BreakViewModel::Background::Image);
+
+        rig.appearance([](BreakAppearance& a) { a.backgroundType = BackgroundType::PaperLight; });
+        QCOMPARE(withImage.background(), BreakViewModel::Background::Gradient);
+
+        rig.appearance([](BreakAppearance& a) {
+            a.backgroundType = BackgroundType::SolidColor;
+            a.backgroundColor = {0.2, 0.4, 0.6, 0.85};
+        });
+        QCOMPARE(withImage.background(), BreakViewModel::Background::Solid);
+        QCOMPARE(withImage.solidColor(), QColor::fromRgbF(0.2f, 0.4f, 0.6f, 0.85f));
+    }
+};
 
 QTEST_MAIN(TestBreakViewModel)
 #include "tst_breakviewmodel.moc"

@@ -11,7 +11,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPointer>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
@@ -85,275 +84,255 @@ class TestBreakWindow : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void targetScreens();
-    void coversTheTargetScreensInOrder();
-    void hidingFadesEveryWindowAndAShowStartsAfresh();
-    void hideWithoutWindowsStillChimes();
-    void startChimeThenLock();
-    void skipButtonRulesOnScreen();
-    void endBreakButtonEndsTheBreak();
-    void dimLayerOnScreen();
-    void customImageAndItsFallback();
-    void allocationLimitRefusesHugeImages();
-    void desktopPictureSettings();
-};
-
-void TestBreakWindow::initTestCase()
-{
-    // The offscreen platform cannot fade or raise windows and says so on every step of every fade.
-    static QtMessageHandler testLog = nullptr;
-    testLog = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
-        if (!message.startsWith(u"This plugin does not support"))
-            testLog(type, context, message);
-    });
-    QCOMPARE(QGuiApplication::screens().size(), 3);
-}
-
-void TestBreakWindow::targetScreens()
-{
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    QCOMPARE(breakTargetScreens(ScreenDisplayMode::AllScreens, screens, screens[1]), screens);
-    QCOMPARE(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, screens, screens[1]), QList<QScreen*>{screens[1]});
-    // No primary reported: the first screen of the list.
-    QCOMPARE(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, screens, nullptr), QList<QScreen*>{screens[0]});
-    QVERIFY(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, {}, nullptr).isEmpty());
-    QVERIFY(breakTargetScreens(ScreenDisplayMode::AllScreens, {}, nullptr).isEmpty());
-}
-
-void TestBreakWindow::coversTheTargetScreensInOrder()
-{
-    Rig rig;
-    QVERIFY(!rig.overlay.engineIfCreated());
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    QCOMPARE(rig.overlay.windows().size(), 3);
-    for (int i = 0; i < 3; ++i) {
-        QQuickWindow* window = rig.overlay.windows()[i];
-        QCOMPARE(window->screen(), screens[i]);
-        QCOMPARE(window->geometry(), screens[i]->geometry());
-        QVERIFY(window->isVisible());
-        QVERIFY(window->flags().testFlag(Qt::FramelessWindowHint));
-        QVERIFY(window->flags().testFlag(Qt::WindowStaysOnTopHint));
-        // The view fills its window.
-        QCOMPARE(window->contentItem()->childItems().first()->size(), QSizeF(screens[i]->geometry().size()));
+    void initTestCase()
+    {
+        // The offscreen platform cannot fade or raise windows and says so on every step of every fade.
+        static QtMessageHandler testLog = nullptr;
+        testLog = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+            if (!message.startsWith(u"This plugin does not support"))
+                testLog(type, context, message);
+        });
+        QCOMPARE(QGuiApplication::screens().size(), 3);
     }
-    // Each window fades in from transparent to opaque.
-    QCOMPARE(rig.overlay.windows()[0]->opacity(), 0.0);
-    QTRY_COMPARE_WITH_TIMEOUT(rig.overlay.windows()[0]->opacity(), 1.0, 2000);
 
-    // The engine is made on first use and kept; the main screen alone gets the primary's window.
-    QQmlEngine* engine = rig.overlay.engineIfCreated();
-    QVERIFY(engine);
-    rig.overlay.hide();
-    rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
-    rig.overlay.show(BreakType::Long);
-    QCOMPARE(rig.overlay.engineIfCreated(), engine);
-    QCOMPARE(rig.overlay.windows().size(), 1);
-    QCOMPARE(rig.overlay.windows().first()->screen(), QGuiApplication::primaryScreen());
-}
+    void targetScreens()
+    {
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        QCOMPARE(breakTargetScreens(ScreenDisplayMode::AllScreens, screens, screens[1]), screens);
+        QCOMPARE(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, screens, screens[1]),
+                 QList<QScreen*>{screens[1]});
+        // No primary reported: the first screen of the list.
+        QCOMPARE(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, screens, nullptr), QList<QScreen*>{screens[0]});
+        QVERIFY(breakTargetScreens(ScreenDisplayMode::MainScreenOnly, {}, nullptr).isEmpty());
+    }
 
-void TestBreakWindow::hidingFadesEveryWindowAndAShowStartsAfresh()
-{
-    Rig rig(true);
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    rig.overlay.show(BreakType::Short);
-    QCOMPARE(rig.overlay.windows().size(), 2);
-    QList<QPointer<QQuickWindow>> shown;
-    for (QQuickWindow* window : rig.overlay.windows())
-        shown.append(window);
-
-    rig.overlay.hide();
-    QVERIFY(rig.overlay.windows().isEmpty());
-    // Still on screen while they fade, gone after the fade.
-    QVERIFY(shown[0] && shown[1]);
-    QVERIFY(shown[0]->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(!shown[0] && !shown[1], 2000);
-
-    // A show during a fade-out gets a window of its own, which the fade does not take along.
-    rig.overlay.show(BreakType::Short);
-    QPointer<QQuickWindow> leaving = rig.overlay.windows().first();
-    rig.overlay.hide();
-    rig.overlay.show(BreakType::Short);
-    QCOMPARE(rig.overlay.windows().size(), 1);
-    QVERIFY(rig.overlay.windows().first() != leaving.data());
-    QPointer<QQuickWindow> staying = rig.overlay.windows().first();
-    QTRY_VERIFY_WITH_TIMEOUT(!leaving, 2000);
-    QVERIFY(staying);
-    QCOMPARE(staying->opacity(), 1.0);
-}
-
-void TestBreakWindow::hideWithoutWindowsStillChimes()
-{
-    Rig rig;
-    rig.overlay.hide();
-    QCOMPARE(rig.player.names(), QStringList{u"Blow"_s});
-    QCOMPARE(rig.player.played.first().volume, rig.settings.notificationSettings().soundVolume);
-
-    NotificationSettings quiet = rig.settings.notificationSettings();
-    quiet.playSoundOnBreakEnd = false;
-    rig.settings.setNotificationSettings(quiet);
-    rig.overlay.hide();
-    QCOMPARE(rig.player.played.size(), 1);
-}
-
-void TestBreakWindow::startChimeThenLock()
-{
-    Rig rig;
-    rig.configure([](BreakConfiguration& c) { c.lockScreenOnBreak = true; });
-    QStringList order;
-    rig.lock.onLock = [&] {
-        order = rig.player.names();
-        order.append(u"lock"_s);
-    };
-    rig.breaks.takeBreakNow();
-    rig.overlay.show(BreakType::Short);
-    QCOMPARE(order, (QStringList{u"Glass"_s, u"lock"_s}));
-    QCOMPARE(rig.lock.lockRequests, 1);
-
-    // No lock available: the overlay still shows and nothing is locked.
-    Rig unavailable;
-    unavailable.configure([](BreakConfiguration& c) { c.lockScreenOnBreak = true; });
-    unavailable.lock.available = false;
-    unavailable.breaks.takeBreakNow();
-    unavailable.overlay.show(BreakType::Short);
-    QCOMPARE(unavailable.overlay.windows().size(), 3);
-    QCOMPARE(unavailable.lock.lockRequests, 0);
-}
-
-void TestBreakWindow::skipButtonRulesOnScreen()
-{
-    Rig rig(true);
-    rig.configure([](BreakConfiguration& c) { c.allowEarlyEnd = false; });
-    QQuickWindow* window = rig.showBreak();
-    QVERIFY(window);
-    QQuickItem* skip = find(window, "skipButton");
-    QVERIFY(skip && skip->isVisible());
-    // Dimmed and deaf for the first two seconds of a balanced break.
-    QCOMPARE(skip->property("usable").toBool(), false);
-    QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(skip));
-    QCOMPARE(rig.breaks.state(), BreakState::OnBreak);
-    QTRY_VERIFY_WITH_TIMEOUT(skip->property("usable").toBool(), 3000);
-    QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(skip));
-    QVERIFY(rig.breaks.state() != BreakState::OnBreak);
-
-    // Committed without early end: no Skip at all, End Break never comes, and the row takes no room.
-    Rig hardcore(true);
-    hardcore.configure([](BreakConfiguration& c) {
-        c.allowEarlyEnd = false;
-        c.skipDifficulty = SkipDifficulty::Hardcore;
-    });
-    QQuickWindow* strict = hardcore.showBreak();
-    QVERIFY(strict);
-    QVERIFY(!find(strict, "skipButton")->isVisible());
-    for (int i = 0; i < 19; ++i)
-        hardcore.breaks.breakTick();
-    QVERIFY(!find(strict, "endBreakButton")->isVisible());
-    QCOMPARE(find(strict, "controls")->height(), 0.0);
-}
-
-void TestBreakWindow::endBreakButtonEndsTheBreak()
-{
-    Rig rig(true);
-    QQuickWindow* window = rig.showBreak();
-    QVERIFY(window);
-    QQuickItem* endBreak = find(window, "endBreakButton");
-    QQuickItem* time = find(window, "timeText");
-    QCOMPARE(time->property("text").toString(), u"20"_s);
-    QVERIFY(!endBreak->isVisible());
-    for (int i = 0; i < 10; ++i)
-        rig.breaks.breakTick();
-    QCOMPARE(time->property("text").toString(), u"10"_s);
-    QVERIFY(endBreak->isVisible());
-    QTest::qWait(50); // let the row lay the new button out
-    QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(endBreak));
-    QVERIFY(rig.breaks.state() != BreakState::OnBreak);
-    QCOMPARE(rig.breaks.dailyBreakCount(), 1);
-}
-
-void TestBreakWindow::dimLayerOnScreen()
-{
-    Rig rig(true);
-    rig.appearance([](BreakAppearance& a) {
-        a.backgroundType = BackgroundType::SolidColor;
-        a.backgroundColor = {1, 1, 1, 1};
-        a.overlayOpacity = 0.6;
-    });
-    QQuickWindow* window = rig.showBreak();
-    QVERIFY(window);
-    QQuickItem* dim = find(window, "dimLayer");
-    QVERIFY(qFuzzyCompare(dim->opacity(), 0.4));
-    // White under black at 0.4 reads as 60 % grey in a corner the content leaves alone.
-    const QImage frame = window->grabWindow();
-    const QColor corner = frame.pixelColor(5, 5);
-    QVERIFY2(qAbs(corner.red() - 153) <= 2, qPrintable(QString::number(corner.red())));
-
-    rig.appearance([](BreakAppearance& a) { a.overlayOpacity = 1.0; });
-    QVERIFY(!dim->isVisible());
-    QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::white));
-}
-
-void TestBreakWindow::customImageAndItsFallback()
-{
-    QTemporaryDir dir;
-    const QString picture = dir.filePath(u"red.png"_s);
-    QImage red(64, 32, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    QVERIFY(red.save(picture));
-    const QString corrupt = dir.filePath(u"corrupt.png"_s);
-    QFile file(corrupt);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("\x89PNG\r\n\x1a\n not really");
-    file.close();
-
-    Rig rig(true);
-    rig.appearance([&](BreakAppearance& a) {
-        a.backgroundType = BackgroundType::CustomImage;
-        a.customImagePath = picture;
-        a.overlayOpacity = 1.0;
-    });
-    QQuickWindow* window = rig.showBreak();
-    QVERIFY(window);
-    QVERIFY(find(window, "backgroundImage")->isVisible());
-    QVERIFY(!find(window, "backgroundGradient")->isVisible());
-    QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::red));
-    rig.overlay.hide();
-
-    for (const QString& broken : {corrupt, dir.filePath(u"missing.png"_s), QString()}) {
-        rig.appearance([&](BreakAppearance& a) { a.customImagePath = broken; });
+    void coversTheTargetScreensInOrder()
+    {
+        Rig rig;
+        rig.breaks.takeBreakNow();
         rig.overlay.show(BreakType::Short);
-        QQuickWindow* fallback = rig.overlay.windows().first();
-        QVERIFY(!find(fallback, "backgroundImage")->isVisible());
-        QVERIFY(find(fallback, "backgroundGradient")->isVisible());
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        QCOMPARE(rig.overlay.windows().size(), 3);
+        for (int i = 0; i < 3; ++i) {
+            QQuickWindow* window = rig.overlay.windows()[i];
+            QCOMPARE(window->screen(), screens[i]);
+            QCOMPARE(window->geometry(), screens[i]->geometry());
+            QVERIFY(window->isVisible());
+            QVERIFY(window->flags().testFlag(Qt::FramelessWindowHint));
+            QVERIFY(window->flags().testFlag(Qt::WindowStaysOnTopHint));
+            // The view fills its window.
+            QCOMPARE(window->contentItem()->childItems().first()->size(), QSizeF(screens[i]->geometry().size()));
+        }
+        // Each window fades in from transparent to opaque.
+        QCOMPARE(rig.overlay.windows()[0]->opacity(), 0.0);
+        QTRY_COMPARE_WITH_TIMEOUT(rig.overlay.windows()[0]->opacity(), 1.0, 2000);
+
+        // The main screen alone gets the primary's window.
         rig.overlay.hide();
+        rig.appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
+        rig.overlay.show(BreakType::Long);
+        QCOMPARE(rig.overlay.windows().size(), 1);
+        QCOMPARE(rig.overlay.windows().first()->screen(), QGuiApplication::primaryScreen());
     }
-}
 
-void TestBreakWindow::allocationLimitRefusesHugeImages()
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(u"big.png"_s);
-    QImage big(2000, 1000, QImage::Format_RGB32); // about 8 MB decoded
-    big.fill(Qt::blue);
-    QVERIFY(big.save(path));
-    QVERIFY(loadBackgroundImage(path, 1).isNull());
-    QCOMPARE(loadBackgroundImage(path, 64).size(), QSize(2000, 1000));
-    QVERIFY(loadBackgroundImage(dir.filePath(u"none.png"_s)).isNull());
-}
+    void hidingFadesEveryWindowAndAShowStartsAfresh()
+    {
+        Rig rig(true);
+        rig.breaks.takeBreakNow();
+        rig.overlay.show(BreakType::Short);
+        rig.overlay.show(BreakType::Short);
+        QCOMPARE(rig.overlay.windows().size(), 2);
+        QList<QPointer<QQuickWindow>> shown;
+        for (QQuickWindow* window : rig.overlay.windows())
+            shown.append(window);
 
-void TestBreakWindow::desktopPictureSettings()
-{
-    QCOMPARE(gnomeWallpaperFromGsettings(u"'file:///usr/share/backgrounds/a%20b.jpg'\n"_s),
-             u"/usr/share/backgrounds/a b.jpg"_s);
-    QCOMPARE(gnomeWallpaperFromGsettings(u"''\n"_s), QString());
-    QCOMPARE(plasmaWallpaperFromConfig(u"[Containments][1][Wallpaper][org.kde.image][General]\n"
-                                       "Image=file:///home/u/Pictures/lake.png\nPreviewImage=x\n"_s),
-             u"/home/u/Pictures/lake.png"_s);
-    QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nImage=/opt/walls/sea.jpg\n"_s), u"/opt/walls/sea.jpg"_s);
-    QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nColor=1,2,3\n"_s), QString());
-}
+        rig.overlay.hide();
+        QVERIFY(rig.overlay.windows().isEmpty());
+        // Still on screen while they fade, gone after the fade.
+        QVERIFY(shown[0] && shown[1]);
+        QVERIFY(shown[0]->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!shown[0] && !shown[1], 2000);
+
+        // A show during a fade-out gets a window of its own, which the fade does not take along.
+        rig.overlay.show(BreakType::Short);
+        QPointer<QQuickWindow> leaving = rig.overlay.windows().first();
+        rig.overlay.hide();
+        rig.overlay.show(BreakType::Short);
+        QCOMPARE(rig.overlay.windows().size(), 1);
+        QVERIFY(rig.overlay.windows().first() != leaving.data());
+        QPointer<QQuickWindow> staying = rig.overlay.windows().first();
+        QTRY_VERIFY_WITH_TIMEOUT(!leaving, 2000);
+        QVERIFY(staying);
+        QCOMPARE(staying->opacity(), 1.0);
+    }
+
+    void hideWithoutWindowsStillChimes()
+    {
+        Rig rig;
+        rig.overlay.hide();
+        QCOMPARE(rig.player.names(), QStringList{u"Blow"_s});
+        QCOMPARE(rig.player.played.first().volume, rig.settings.notificationSettings().soundVolume);
+
+        NotificationSettings quiet = rig.settings.notificationSettings();
+        quiet.playSoundOnBreakEnd = false;
+        rig.settings.setNotificationSettings(quiet);
+        rig.overlay.hide();
+        QCOMPARE(rig.player.played.size(), 1);
+    }
+
+    void startChimeThenLock()
+    {
+        Rig rig;
+        rig.configure([](BreakConfiguration& c) { c.lockScreenOnBreak = true; });
+        QStringList order;
+        rig.lock.onLock = [&] {
+            order = rig.player.names();
+            order.append(u"lock"_s);
+        };
+        rig.breaks.takeBreakNow();
+        rig.overlay.show(BreakType::Short);
+        QCOMPARE(order, (QStringList{u"Glass"_s, u"lock"_s}));
+        QCOMPARE(rig.lock.lockRequests, 1);
+
+        // No lock available: the overlay still shows and nothing is locked.
+        Rig unavailable;
+        unavailable.configure([](BreakConfiguration& c) { c.lockScreenOnBreak = true; });
+        unavailable.lock.available = false;
+        unavailable.breaks.takeBreakNow();
+        unavailable.overlay.show(BreakType::Short);
+        QCOMPARE(unavailable.overlay.windows().size(), 3);
+        QCOMPARE(unavailable.lock.lockRequests, 0);
+    }
+
+    void skipButtonRulesOnScreen()
+    {
+        Rig rig(true);
+        rig.configure([](BreakConfiguration& c) { c.allowEarlyEnd = false; });
+        QQuickWindow* window = rig.showBreak();
+        QVERIFY(window);
+        QQuickItem* skip = find(window, "skipButton");
+        QVERIFY(skip && skip->isVisible());
+        // Dimmed and deaf for the first two seconds of a balanced break.
+        QCOMPARE(skip->property("usable").toBool(), false);
+        QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(skip));
+        QCOMPARE(rig.breaks.state(), BreakState::OnBreak);
+        QTRY_VERIFY_WITH_TIMEOUT(skip->property("usable").toBool(), 3000);
+        QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(skip));
+        QVERIFY(rig.breaks.state() != BreakState::OnBreak);
+
+        // Committed without early end: no Skip at all, and the row takes no room.
+        Rig hardcore(true);
+        hardcore.configure([](BreakConfiguration& c) {
+            c.allowEarlyEnd = false;
+            c.skipDifficulty = SkipDifficulty::Hardcore;
+        });
+        QQuickWindow* strict = hardcore.showBreak();
+        QVERIFY(strict);
+        QVERIFY(!find(strict, "skipButton")->isVisible());
+        QCOMPARE(find(strict, "controls")->height(), 0.0);
+    }
+
+    void endBreakButtonEndsTheBreak()
+    {
+        Rig rig(true);
+        QQuickWindow* window = rig.showBreak();
+        QVERIFY(window);
+        QQuickItem* endBreak = find(window, "endBreakButton");
+        QQuickItem* time = find(window, "timeText");
+        QCOMPARE(time->property("text").toString(), u"20"_s);
+        QVERIFY(!endBreak->isVisible());
+        for (int i = 0; i < 10; ++i)
+            rig.breaks.breakTick();
+        QCOMPARE(time->property("text").toString(), u"10"_s);
+        QVERIFY(endBreak->isVisible());
+        QTest::qWait(50); // let the row lay the new button out
+        QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(endBreak));
+        QVERIFY(rig.breaks.state() != BreakState::OnBreak);
+        QCOMPARE(rig.breaks.dailyBreakCount(), 1);
+    }
+
+    void dimLayerOnScreen()
+    {
+        Rig rig(true);
+        rig.appearance([](BreakAppearance& a) {
+            a.backgroundType = BackgroundType::SolidColor;
+            a.backgroundColor = {1, 1, 1, 1};
+            a.overlayOpacity = 0.6;
+        });
+        QQuickWindow* window = rig.showBreak();
+        QVERIFY(window);
+        QQuickItem* dim = find(window, "dimLayer");
+        QVERIFY(qFuzzyCompare(dim->opacity(), 0.4));
+        // White under black at 0.4 reads as 60 % grey in a corner the content leaves alone.
+        const QImage frame = window->grabWindow();
+        const QColor corner = frame.pixelColor(5, 5);
+        QVERIFY2(qAbs(corner.red() - 153) <= 2, qPrintable(QString::number(corner.red())));
+
+        rig.appearance([](BreakAppearance& a) { a.overlayOpacity = 1.0; });
+        QVERIFY(!dim->isVisible());
+        QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::white));
+    }
+
+    void customImageAndItsFallback()
+    {
+        QTemporaryDir dir;
+        const QString picture = dir.filePath(u"red.png"_s);
+        QImage red(64, 32, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save(picture));
+        const QString corrupt = dir.filePath(u"corrupt.png"_s);
+        QFile file(corrupt);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("\x89PNG\r\n\x1a\n not really");
+        file.close();
+
+        Rig rig(true);
+        rig.appearance([&](BreakAppearance& a) {
+            a.backgroundType = BackgroundType::CustomImage;
+            a.customImagePath = picture;
+            a.overlayOpacity = 1.0;
+        });
+        QQuickWindow* window = rig.showBreak();
+        QVERIFY(window);
+        QVERIFY(find(window, "backgroundImage")->isVisible());
+        QVERIFY(!find(window, "backgroundGradient")->isVisible());
+        QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::red));
+        rig.overlay.hide();
+
+        for (const QString& broken : {corrupt, dir.filePath(u"missing.png"_s), QString()}) {
+            rig.appearance([&](BreakAppearance& a) { a.customImagePath = broken; });
+            rig.overlay.show(BreakType::Short);
+            QQuickWindow* fallback = rig.overlay.windows().first();
+            QVERIFY(!find(fallback, "backgroundImage")->isVisible());
+            QVERIFY(find(fallback, "backgroundGradient")->isVisible());
+            rig.overlay.hide();
+        }
+    }
+
+    void allocationLimitRefusesHugeImages()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"big.png"_s);
+        QImage big(2000, 1000, QImage::Format_RGB32); // about 8 MB decoded
+        big.fill(Qt::blue);
+        QVERIFY(big.save(path));
+        QVERIFY(loadBackgroundImage(path, 1).isNull());
+        QCOMPARE(loadBackgroundImage(path, 64).size(), QSize(2000, 1000));
+        QVERIFY(loadBackgroundImage(dir.filePath(u"none.png"_s)).isNull());
+    }
+
+    void desktopPictureSettings()
+    {
+        QCOMPARE(gnomeWallpaperFromGsettings(u"'file:///usr/share/backgrounds/a%20b.jpg'\n"_s),
+                 u"/usr/share/backgrounds/a b.jpg"_s);
+        QCOMPARE(gnomeWallpaperFromGsettings(u"''\n"_s), QString());
+        QCOMPARE(plasmaWallpaperFromConfig(u"[Containments][1][Wallpaper][org.kde.image][General]\n"
+                                           "Image=file:///home/u/Pictures/lake.png\nPreviewImage=x\n"_s),
+                 u"/home/u/Pictures/lake.png"_s);
+        QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nImage=/opt/walls/sea.jpg\n"_s), u"/opt/walls/sea.jpg"_s);
+        QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nColor=1,2,3\n"_s), QString());
+    }
+};
 
 int main(int argc, char** argv)
 {

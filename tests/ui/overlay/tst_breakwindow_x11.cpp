@@ -25,41 +25,38 @@ class TestBreakWindowX11 : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void oneWindowPerMonitorAboveTheWindowManager();
-};
-
-void TestBreakWindowX11::initTestCase()
-{
-    if (xvfbDisplay.isEmpty())
-        QSKIP("no Xvfb, openbox or xrandr here");
-    QCOMPARE(QGuiApplication::platformName(), u"xcb"_s);
-    QCOMPARE(QGuiApplication::screens().size(), 2);
-}
-
-void TestBreakWindowX11::oneWindowPerMonitorAboveTheWindowManager()
-{
-    InMemoryUserDefaults store;
-    SettingsManager settings(store, nullptr);
-    BreakManager breaks(store);
-    breaks.setSettingsManager(&settings);
-    BreakWindow overlay(&settings, &breaks, nullptr, nullptr);
-    breaks.takeBreakNow();
-    overlay.show(BreakType::Short);
-
-    QCOMPARE(overlay.windows().size(), 2);
-    const QList<QRect> monitors = {QRect(0, 0, 1280, 800), QRect(1280, 0, 1280, 800)};
-    for (int i = 0; i < 2; ++i) {
-        QQuickWindow* window = overlay.windows()[i];
-        QVERIFY(QTest::qWaitForWindowExposed(window));
-        QCOMPARE(window->screen()->geometry(), monitors[i]);
-        QCOMPARE(window->geometry(), monitors[i]);
-        // Override-redirect: no window manager can put panels above it or keep it on one workspace.
-        QVERIFY(window->flags().testFlag(Qt::BypassWindowManagerHint));
+    void initTestCase()
+    {
+        if (xvfbDisplay.isEmpty())
+            QSKIP("no Xvfb, openbox or xrandr here");
+        QCOMPARE(QGuiApplication::platformName(), u"xcb"_s);
+        QCOMPARE(QGuiApplication::screens().size(), 2);
     }
-    overlay.hide();
-    QTRY_VERIFY_WITH_TIMEOUT(QGuiApplication::topLevelWindows().isEmpty(), 2000);
-}
+
+    void oneWindowPerMonitorAboveTheWindowManager()
+    {
+        InMemoryUserDefaults store;
+        SettingsManager settings(store, nullptr);
+        BreakManager breaks(store);
+        breaks.setSettingsManager(&settings);
+        BreakWindow overlay(&settings, &breaks, nullptr, nullptr);
+        breaks.takeBreakNow();
+        overlay.show(BreakType::Short);
+
+        QCOMPARE(overlay.windows().size(), 2);
+        const QList<QRect> monitors = {QRect(0, 0, 1280, 800), QRect(1280, 0, 1280, 800)};
+        for (int i = 0; i < 2; ++i) {
+            QQuickWindow* window = overlay.windows()[i];
+            QVERIFY(QTest::qWaitForWindowExposed(window));
+            QCOMPARE(window->screen()->geometry(), monitors[i]);
+            QCOMPARE(window->geometry(), monitors[i]);
+            // Override-redirect: no window manager can put panels above it or keep it on one workspace.
+            QVERIFY(window->flags().testFlag(Qt::BypassWindowManagerHint));
+        }
+        overlay.hide();
+        QTRY_VERIFY_WITH_TIMEOUT(QGuiApplication::topLevelWindows().isEmpty(), 2000);
+    }
+};
 
 int main(int argc, char** argv)
 {

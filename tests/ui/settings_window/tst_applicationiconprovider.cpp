@@ -1,9 +1,8 @@
 #include "ApplicationIconProvider.h"
-#include "detection/ApplicationInfoProviding.h"
+#include "FakeApplicationInfo.h"
 #include "SettingsPaneModel.h"
 
 #include <QGuiApplication>
-#include <QHash>
 #include <QIcon>
 #include <QImage>
 #include <QTemporaryDir>
@@ -13,20 +12,6 @@ using namespace Qt::StringLiterals;
 using namespace velto;
 
 namespace {
-
-class FakeApplications final : public ApplicationInfoProviding {
-public:
-    [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const QString& identifier) const override
-    {
-        ++queries;
-        const auto found = known.constFind(identifier);
-        if (found == known.cend())
-            return std::nullopt;
-        return *found;
-    }
-    QHash<QString, ApplicationInfo> known;
-    mutable int queries = 0;
-};
 
 QString idOf(const QUrl& source)
 {
@@ -47,14 +32,14 @@ private Q_SLOTS:
         red.fill(Qt::red);
         const QString path = dir.filePath(u"red.png"_s);
         QVERIFY(red.save(path));
-        FakeApplications applications;
+        FakeApplicationInfo applications;
         applications.known.insert(u"org.example.Red App"_s, {u"Red"_s, path, true});
         ApplicationIconProvider provider(&applications);
 
         QSize size;
         const QImage image =
             provider.requestImage(idOf(SettingsPaneModel::iconSource(u"org.example.Red App"_s)), &size, QSize(24, 24));
-        QCOMPARE(applications.queries, 1);
+        QCOMPARE(applications.queries.load(), 1);
         QCOMPARE(image.size(), QSize(24, 24));
         QCOMPARE(size, QSize(24, 24));
         QCOMPARE(image.pixelColor(12, 12), QColor(Qt::red));
@@ -62,7 +47,7 @@ private Q_SLOTS:
 
     void unknownApplicationsAndMissingIconsStillGiveAnImage()
     {
-        FakeApplications applications;
+        FakeApplicationInfo applications;
         applications.known.insert(u"no.icon"_s, {u"No Icon"_s, u"/nonexistent/icon.png"_s, true});
         ApplicationIconProvider provider(&applications);
         for (const QString& id : {u"not.installed"_s, u"no.icon"_s}) {
@@ -88,11 +73,11 @@ private Q_SLOTS:
         const QUrl source = SettingsPaneModel::appIconSource();
         QVERIFY(source.toString().startsWith(u"image://veltoappicon/"_s));
 
-        FakeApplications applications;
+        FakeApplicationInfo applications;
         ApplicationIconProvider provider(&applications);
         const QImage image = provider.requestImage(idOf(source), nullptr, QSize(16, 16));
         QCOMPARE(image.pixelColor(8, 8), QColor(Qt::blue));
-        QCOMPARE(applications.queries, 0);
+        QCOMPARE(applications.queries.load(), 0);
     }
 };
 

@@ -1,5 +1,5 @@
 #include "AddFocusAppModel.h"
-#include "detection/ApplicationInfoProviding.h"
+#include "FakeApplicationInfo.h"
 #include "FakeDetectionProviders.h"
 #include "FakeScreenLock.h"
 #include "InMemoryUserDefaults.h"
@@ -19,16 +19,6 @@ using namespace Qt::StringLiterals;
 using namespace velto;
 
 namespace {
-
-class FakeApplications final : public ApplicationInfoProviding {
-public:
-    [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const QString& identifier) const override
-    {
-        if (identifier == u"org.gnome.TextEditor"_s)
-            return ApplicationInfo{u"Text Editor"_s, QString(), true};
-        return std::nullopt;
-    }
-};
 
 // Objects with this name under root, in the object tree and the visual tree (views and repeaters make their
 // delegates children of items only), each once, in tree order.
@@ -87,12 +77,13 @@ private:
         SettingsManager settings{store, nullptr};
         FakeScreenLock lock;
         FakeWorkspace workspace;
-        FakeApplications applications;
+        FakeApplicationInfo applications;
         UpdateAvailabilityModel updates;
         SettingsWindowController controller{{&lock, &workspace, &applications, &updates}};
 
         QQuickWindow* open()
         {
+            applications.known.insert(u"org.gnome.TextEditor"_s, {u"Text Editor"_s, QString(), true});
             controller.showSettings(&settings, nullptr);
             QQuickWindow* window = controller.settingsWindow();
             // Let the one rebuild after the first showing happen.
@@ -130,10 +121,6 @@ private Q_SLOTS:
         QVERIFY(first);
         QVERIFY(f.controller.engineIfCreated());
         QVERIFY(first->isVisible());
-        QCOMPARE(first->title(), u"Velto Settings"_s);
-        QCOMPARE(first->size(), QSize(740, 580));
-        QCOMPARE(first->minimumSize(), QSize(740, 480));
-        QCOMPARE(first->property("detailLayoutRemountPass").toInt(), 1);
 
         first->setProperty("selectedTab", 3);
         f.controller.showSettings(&f.settings, nullptr);
@@ -163,8 +150,6 @@ private Q_SLOTS:
         QVERIFY(dotShown());
         QObject* about = f.pane(5);
         QVERIFY(isShown(about->findChild<QObject*>(u"updateNudge"_s)));
-        QCOMPARE(about->findChild<QObject*>(u"updateNudgeText"_s)->property("text").toString(),
-                 u"Version 3.0 is ready when you are."_s);
         f.updates.userDidMakeChoice(UpdateChoice::Skip, item);
         QVERIFY(!dotShown());
         QVERIFY(!isShown(about->findChild<QObject*>(u"updateNudge"_s)));
@@ -188,9 +173,6 @@ private Q_SLOTS:
         BreakConfiguration breaks = f.settings.breakConfiguration();
         breaks.workInterval = 90;
         f.settings.setBreakConfiguration(breaks);
-        SmartPauseSettings smartPause = f.settings.smartPauseSettings();
-        smartPause.idleThreshold = 180;
-        f.settings.setSmartPauseSettings(smartPause);
         NotificationSettings notifications = f.settings.notificationSettings();
         notifications.preBreakNotificationTime = 240;
         f.settings.setNotificationSettings(notifications);
@@ -199,11 +181,8 @@ private Q_SLOTS:
         QObject* workInterval = picker(f.pane(1), u"workInterval"_s);
         QCOMPARE(workInterval->property("currentIndex").toInt(), -1);
         QCOMPARE(workInterval->property("displayText").toString(), QString());
-        QCOMPARE(picker(f.pane(1), u"shortBreakDuration"_s)->property("displayText").toString(), u"20 sec"_s);
-        QCOMPARE(picker(f.pane(2), u"idleThreshold"_s)->property("currentIndex").toInt(), -1);
         QObject* lead = picker(f.pane(3), u"preBreakNotificationTime"_s);
         QCOMPARE(lead->property("currentIndex").toInt(), -1);
-        QCOMPARE(f.settings.notificationSettings().preBreakNotificationTime, 240.0);
 
         activate(lead, 3);
         QCOMPARE(f.settings.notificationSettings().preBreakNotificationTime, 300.0);
@@ -238,17 +217,11 @@ private Q_SLOTS:
 
         emitSignal(pane->findChild<QObject*>(u"presetDeepFocus"_s), "clicked");
         QCOMPARE(highlighted(), QStringList{u"presetDeepFocus"_s});
-        QCOMPARE(picker(pane, u"workInterval"_s)->property("displayText").toString(), u"45 min"_s);
         QVERIFY(isShown(pane->findChild<QObject*>(u"longBreakFrequency"_s)));
 
         activate(picker(pane, u"shortBreakDuration"_s), 0);
         QCOMPARE(highlighted(), QStringList{u"presetCustom"_s});
         QCOMPARE(f.settings.breakConfiguration().shortBreakDuration, 10.0);
-
-        const BreakConfiguration custom = f.settings.breakConfiguration();
-        emitSignal(pane->findChild<QObject*>(u"presetCustom"_s), "clicked");
-        QCOMPARE(f.settings.breakConfiguration(), custom);
-        QCOMPARE(highlighted(), QStringList{u"presetCustom"_s});
 
         // Balanced has no long-break frequency: turning long breaks on shows Frequency with nothing chosen.
         emitSignal(pane->findChild<QObject*>(u"presetBalanced"_s), "clicked");
@@ -269,20 +242,14 @@ private Q_SLOTS:
         QObject* row = pane->findChild<QObject*>(u"lockScreenOnBreak"_s);
         toggle(row, true);
         QCOMPARE(row->findChild<QObject*>(u"switch"_s)->property("checked").toBool(), false);
-        QCOMPARE(f.settings.breakConfiguration().lockScreenOnBreak, false);
         QObject* alert = pane->findChild<QObject*>(u"lockScreenAlert"_s);
         QVERIFY(alert);
         QVERIFY(alert->property("visible").toBool());
         QVERIFY(QMetaObject::invokeMethod(alert, "close"));
         QTRY_VERIFY(!f.paneModel()->showLockScreenAlert());
-
-        f.lock.available = true;
-        toggle(row, true);
-        QCOMPARE(f.settings.breakConfiguration().lockScreenOnBreak, true);
-        QCOMPARE(row->findChild<QObject*>(u"switch"_s)->property("checked").toBool(), true);
     }
 
-    void officeHoursRowsAppearWithTheSwitchAndKeepTheirDays()
+    void officeHoursRowsAppearWithTheSwitch()
     {
         Fixture f;
         f.open();
@@ -291,31 +258,18 @@ private Q_SLOTS:
         QVERIFY(!isShown(days));
         toggle(pane->findChild<QObject*>(u"useOfficeHours"_s), true);
         QVERIFY(isShown(days));
-        f.paneModel()->setDayActive(1, false);
         toggle(pane->findChild<QObject*>(u"useOfficeHours"_s), false);
         QVERIFY(!isShown(days));
-        QVERIFY(!f.settings.schedule().isActiveOn(Weekday::Sunday));
-        QCOMPARE(f.settings.schedule().activeDays.size(), std::size_t(6));
     }
 
-    void resetFromTheGeneralPaneRestoresEverySetting()
+    void resetFromTheGeneralPaneRestoresTheStoreAndTheControls()
     {
         Fixture f;
         f.open();
         toggle(f.pane(0)->findChild<QObject*>(u"showTimerInMenuBar"_s), false);
-        emitSignal(f.pane(1)->findChild<QObject*>(u"presetEyeCare"_s), "clicked");
-        toggle(f.pane(2)->findChild<QObject*>(u"detectMeetings"_s), false);
-        toggle(f.pane(3)->findChild<QObject*>(u"playSoundOnBreakStart"_s), false);
         emitSignal(f.pane(4)->findChild<QObject*>(u"addMessage"_s), "clicked");
-        QVERIFY(f.settings.breakAppearance() != BreakAppearance());
-        QVERIFY(f.settings.smartPauseSettings() != SmartPauseSettings());
-
         emitSignal(f.pane(0)->findChild<QObject*>(u"resetToDefaults"_s), "clicked");
         QCOMPARE(f.settings.showTimerInMenuBar(), true);
-        QCOMPARE(f.settings.breakConfiguration(), BreakConfiguration());
-        QCOMPARE(f.settings.breakPresetSelection(), BreakPresetKind::Balanced);
-        QCOMPARE(f.settings.smartPauseSettings(), SmartPauseSettings());
-        QCOMPARE(f.settings.notificationSettings(), NotificationSettings());
         QCOMPARE(f.settings.breakAppearance(), BreakAppearance());
         QCOMPARE(f.pane(0)
                      ->findChild<QObject*>(u"showTimerInMenuBar"_s)
@@ -352,8 +306,6 @@ private Q_SLOTS:
 
         emitSignal(removeButtons().first(), "clicked");
         QCOMPARE(f.settings.breakAppearance().customMessages, QStringList{u"Stretch"_s});
-        QCOMPARE(removeButtons().size(), 1);
-        QVERIFY(!removeButtons().first()->property("enabled").toBool());
     }
 
     void appearancePickersShowAndHideTheTheme()
@@ -369,78 +321,60 @@ private Q_SLOTS:
         QCOMPARE(theme->findChild<QObject*>(u"picker"_s)->property("currentIndex").toInt(), 0);
         activate(picker(pane, u"backgroundType"_s), 1);
         QVERIFY(!isShown(theme));
-        QCOMPARE(pane->findChild<QObject*>(u"dimLevelText"_s)->property("text").toString(), u"90%"_s);
-        activate(picker(pane, u"screenDisplayMode"_s), 1);
-        QCOMPARE(pane->findChild<QObject*>(u"displayModeExplanation"_s)->property("text").toString(),
-                 u"Show break only on your primary display"_s);
     }
 
-    void focusAppSheetAddsTheSelectedApplication()
-    {
-        Fixture f;
-        f.workspace.applications.set({AppSnapshot{u"org.gnome.TextEditor"_s, true, 7}});
-        f.open();
-        QObject* pane = f.pane(2);
-        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
-        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
-        QObject* sheet = pane->findChild<QObject*>(u"addFocusAppSheet"_s);
-        QVERIFY(sheet);
-        QTRY_VERIFY(sheet->property("opened").toBool());
-        auto* model = f.controller.settingsWindow()->property("focusAppModel").value<AddFocusAppModel*>();
-        QTRY_COMPARE(model->filteredApps().size(), 1);
-        QObject* add = sheet->findChild<QObject*>(u"addSelected"_s);
-        QVERIFY(add);
-        QVERIFY(!add->property("enabled").toBool());
-        model->setSelectedBundleId(u"org.gnome.TextEditor"_s);
-        QVERIFY(add->property("enabled").toBool());
-        emitSignal(add, "clicked");
-        QTRY_VERIFY(!sheet->property("visible").toBool());
-        QCOMPARE(f.settings.smartPauseSettings().deepFocusApps,
-                 (QList<DeepFocusApp>{{u"Text Editor"_s, u"org.gnome.TextEditor"_s, DeepFocusMode::WhenForeground}}));
-        QVERIFY(!isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
-        QCOMPARE(named(pane, u"removeFocusApp"_s).size(), 1);
-
-        emitSignal(named(pane, u"removeFocusApp"_s).value(0), "clicked");
-        QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
-        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
-    }
-
-    void sheetKeysEscapeCancelsAndReturnAdds()
+    void focusAppSheetAddsByButtonOrKeysAndEscapeCancels()
     {
         Fixture f;
         f.workspace.applications.set({AppSnapshot{u"org.gnome.TextEditor"_s, true, 7}});
         QQuickWindow* window = f.open();
         window->requestActivate();
         QObject* pane = f.pane(2);
+        QObject* addApp = pane->findChild<QObject*>(u"addApp"_s);
         QObject* sheet = pane->findChild<QObject*>(u"addFocusAppSheet"_s);
+        QVERIFY(sheet);
+        QObject* add = sheet->findChild<QObject*>(u"addSelected"_s);
+        QVERIFY(add);
         auto* model = window->property("focusAppModel").value<AddFocusAppModel*>();
+        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
 
-        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        emitSignal(addApp, "clicked");
         QTRY_VERIFY(sheet->property("opened").toBool());
         QTRY_COMPARE(model->filteredApps().size(), 1);
         // Return without a selection adds nothing and keeps the sheet.
+        QVERIFY(!add->property("enabled").toBool());
         QTest::keyClick(window, Qt::Key_Return);
         QVERIFY(sheet->property("visible").toBool());
         // Down selects the first application, Escape leaves without adding it.
         QTest::keyClick(window, Qt::Key_Tab);
         QTest::keyClick(window, Qt::Key_Down);
         QCOMPARE(model->selectedBundleId(), u"org.gnome.TextEditor"_s);
+        QVERIFY(add->property("enabled").toBool());
         QTest::keyClick(window, Qt::Key_Escape);
         QTRY_VERIFY(!sheet->property("visible").toBool());
         QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
 
-        // A new showing starts without a selection; typing filters, Down selects, Return adds.
-        emitSignal(pane->findChild<QObject*>(u"addApp"_s), "clicked");
+        // A new showing starts without a selection; Down and Return add.
+        emitSignal(addApp, "clicked");
         QTRY_VERIFY(sheet->property("opened").toBool());
         QVERIFY(!model->canAdd());
         QTRY_COMPARE(model->filteredApps().size(), 1);
-        for (const char key : {'T', 'E', 'X', 'T'})
-            QTest::keyClick(window, key);
-        QCOMPARE(model->searchText(), u"TEXT"_s);
-        QCOMPARE(model->filteredApps().size(), 1);
         QTest::keyClick(window, Qt::Key_Tab);
         QTest::keyClick(window, Qt::Key_Down);
         QTest::keyClick(window, Qt::Key_Return);
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
+        QVERIFY(!isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
+        emitSignal(named(pane, u"removeFocusApp"_s).value(0), "clicked");
+        QVERIFY(f.settings.smartPauseSettings().deepFocusApps.isEmpty());
+        QVERIFY(isShown(pane->findChild<QObject*>(u"noFocusApps"_s)));
+
+        // The button adds the chosen application.
+        emitSignal(addApp, "clicked");
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        QTRY_COMPARE(model->filteredApps().size(), 1);
+        model->setSelectedBundleId(u"org.gnome.TextEditor"_s);
+        emitSignal(add, "clicked");
         QTRY_VERIFY(!sheet->property("visible").toBool());
         QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
     }
