@@ -228,8 +228,11 @@ void BreakViewModel::start()
         setCanSkip(true);
         break;
     case SkipDifficulty::Balanced:
-        // Precise: a coarse timer may fire up to 5 % early, before the two seconds are up.
-        QTimer::singleShot(2000, Qt::PreciseTimer, this, [this] { setCanSkip(true); });
+        if (m_delayedAction)
+            m_delayedAction(2.0, this, [this] { setCanSkip(true); });
+        else
+            // Precise: a coarse timer may fire up to 5 % early, before the two seconds are up.
+            QTimer::singleShot(2000, Qt::PreciseTimer, this, [this] { setCanSkip(true); });
         break;
     case SkipDifficulty::Hardcore:
         break;

@@ -10,6 +10,8 @@
 #include <QVariantList>
 #include <QtQmlIntegration>
 
+#include <functional>
+
 namespace velto {
 
 class BreakManager;
@@ -53,6 +55,11 @@ public:
     // background; an empty URL means there is none and the theme gradient stands in.
     BreakViewModel(SettingsManager* settings, BreakManager* breakManager, BreakType breakType, QUrl imageSource = {},
                    QObject* parent = nullptr);
+
+    // Runs an action once after a delay in seconds, unless context is gone by then; by default a precise timer.
+    using DelayedAction = std::function<void(double seconds, QObject* context, std::function<void()> action)>;
+    // For the balanced Skip delay; tests hand in their own clock.
+    void setDelayedAction(DelayedAction delayedAction) { m_delayedAction = std::move(delayedAction); }
 
     static const QStringList shortBreakFallbackMessages;
     static const QStringList longBreakFallbackMessages;
@@ -104,6 +111,7 @@ private:
     QString m_message;
     bool m_canSkip = false;
     bool m_started = false;
+    DelayedAction m_delayedAction;
 };
 
 } // namespace velto

@@ -143,6 +143,7 @@ QQuickWindow* BreakWindow::makeBreakWindow(QScreen* screen, BreakType breakType)
     }
 
     auto* model = new BreakViewModel(m_settings, m_breakManager, breakType, m_imageSource);
+    model->setDelayedAction(m_delayedAction);
     QObject* root = component.createWithInitialProperties({{u"viewModel"_s, QVariant::fromValue(model)}});
     auto* item = qobject_cast<QQuickItem*>(root);
     if (!item) {

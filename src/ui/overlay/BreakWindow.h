@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BreakViewModel.h"
 #include "settings/SettingsEnums.h"
 
 #include <QList>
@@ -51,6 +52,8 @@ public:
     [[nodiscard]] QQuickWindow* makeBreakWindow(QScreen* screen, BreakType breakType);
 
     [[nodiscard]] const QList<QQuickWindow*>& windows() const { return m_windows; }
+    // Handed to each break screen for its Skip delay; see BreakViewModel.
+    void setDelayedAction(BreakViewModel::DelayedAction delayedAction) { m_delayedAction = std::move(delayedAction); }
     [[nodiscard]] QQmlEngine* engineIfCreated() const { return m_engine.get(); }
 
     // Selects Qt Quick's software renderer unless the user chose another through QT_QUICK_BACKEND: it needs
@@ -70,6 +73,7 @@ private:
     BackgroundImageProvider* m_images = nullptr; // owned by the engine
     QUrl m_imageSource;
     QList<QQuickWindow*> m_windows;
+    BreakViewModel::DelayedAction m_delayedAction;
 };
 
 } // namespace velto
