@@ -86,9 +86,8 @@ private Q_SLOTS:
             QVERIFY(target);
             target->click();
         }
-        QCOMPARE(answers, QList<UpdateChoice>{choice});
-        QTRY_VERIFY(!window); // closed windows are deleted
-        QCOMPARE(answers.size(), 1);
+        QTRY_VERIFY(!window);                           // closed windows are deleted
+        QCOMPARE(answers, QList<UpdateChoice>{choice}); // once, even after the close that follows
     }
 
     // Release notes linked from the feed are fetched and shown; a failure says so instead.
@@ -121,7 +120,6 @@ private Q_SLOTS:
         auto* notes = driver.currentWindow()->findChild<QTextBrowser*>(u"releaseNotes"_s);
         QVERIFY(notes);
         QTRY_VERIFY(notes->placeholderText().contains(u"could not be loaded"_s));
-        QVERIFY(notes->toPlainText().isEmpty());
     }
 
     // Up to date and failures get a message window; a newer answer replaces the window before it.
@@ -139,7 +137,6 @@ private Q_SLOTS:
         driver.showUpdateNotFound(upToDate);
         QVERIFY(!found);
         QCOMPARE(answers, QList<UpdateChoice>{UpdateChoice::Dismiss});
-        QVERIFY(allLabelText(driver.currentWindow()).contains(u"Velto is up to date"_s));
         QVERIFY(allLabelText(driver.currentWindow()).contains(u"Velto 1.0 is the newest version available."_s));
 
         driver.showUpdaterError({UpdaterErrors::domain.toString(),
