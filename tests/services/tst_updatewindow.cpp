@@ -54,7 +54,7 @@ private Q_SLOTS:
                        {200, QByteArray("<h3>What's new</h3><ul><li>Breaks wait for the end of a call.</li>"
                                         "<li>Fixed the tray icon on dark panels.</li></ul>")});
         m_server.route(u"/huge-notes.html"_s, {200, QByteArray(64 * 1024, 'x')});
-        m_server.route(u"/notes-elsewhere.html"_s, {301, {}, false, false, QByteArray("http://velto.app/notes.html")});
+        m_server.route(u"/notes-elsewhere.html"_s, {301, {}, false, QByteArray("http://velto.app/notes.html")});
     }
 
     // Each button answers once with its choice, and closing the window answers "Remind Me Later".
