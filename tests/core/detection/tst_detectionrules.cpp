@@ -40,7 +40,6 @@ class TestDetectionRules : public QObject {
 
 private Q_SLOTS:
     void knownApplicationTables();
-    void meetingDecisionTable_data();
     void meetingDecisionTable();
     void meetingExclusionsAndDevices();
     void videoPlayersAskedByMode();
@@ -54,72 +53,49 @@ private Q_SLOTS:
 void TestDetectionRules::knownApplicationTables()
 {
     namespace KA = KnownApplications;
-    // A Linux row may repeat a written identity only under the same name; no table lists an identity twice.
-    QHash<QString, QString> written;
-    for (const auto& row : KA::meetingApplications().written) {
-        QVERIFY2(!written.contains(row.bundleIdentifier.toString()), qPrintable(row.bundleIdentifier.toString()));
-        written.insert(row.bundleIdentifier.toString(), row.displayName.toString());
-    }
-    QSet<QString> linuxIds;
-    for (const auto& row : KA::meetingApplications().linuxRows) {
-        const QString id = row.bundleIdentifier.toString();
-        QVERIFY2(!written.contains(id) && !linuxIds.contains(id), qPrintable(id));
-        QVERIFY2(!row.displayName.isEmpty(), qPrintable(id));
-        linuxIds.insert(id);
-    }
-    QCOMPARE(KA::meetingAppNames().size(), written.size() + linuxIds.size());
-
     // Browsers are meeting applications; none of them can be asked about playback.
     for (const QString& browser : KA::browserBundleIdentifiers()) {
         QVERIFY2(KA::meetingAppNames().contains(browser), qPrintable(browser));
         QVERIFY2(!KA::playbackQueryBundleIdentifiers().contains(browser), qPrintable(browser));
     }
 
-    // Lookups are exact and case-sensitive, for written and Linux rows alike.
+    // Lookups are exact and case-sensitive.
     QCOMPARE(KA::meetingAppName(u"us.zoom.xos"_s), u"Zoom"_s);
     QCOMPARE(KA::meetingAppName(u"COM.SLACK.SLACK"_s), std::nullopt);
 }
 
-void TestDetectionRules::meetingDecisionTable_data()
+void TestDetectionRules::meetingDecisionTable()
 {
-    QTest::addColumn<QString>("frontmost");
-    QTest::addColumn<bool>("camera");
-    QTest::addColumn<bool>("microphone");
-    QTest::addColumn<bool>("inMeeting");
-    QTest::addColumn<QString>("application");
-
+    struct Row {
+        QString frontmost;
+        bool camera, microphone, inMeeting;
+        QString application;
+    };
     const QString zoom = u"us.zoom.xos"_s;
     const QString chrome = u"com.google.Chrome"_s;
     const QString editor = u"org.kde.kate"_s;
-    QTest::newRow("meeting app alone") << zoom << false << false << true << zoom;
-    QTest::newRow("browser, no device") << chrome << false << false << false << QString();
-    QTest::newRow("browser, camera") << chrome << true << false << true << chrome;
-    QTest::newRow("linux browser, microphone") << u"firefox"_s << false << true << true << u"firefox"_s;
-    QTest::newRow("other app, camera") << editor << true << false << true << QString();
-    QTest::newRow("other app, nothing") << editor << false << false << false << QString();
-    QTest::newRow("no frontmost, camera") << QString() << true << false << true << QString();
-}
+    // A meeting application alone; a browser with a device; any other application, or none, by the devices.
+    const QList<Row> rows{
+        {zoom, false, false, true, zoom},    {chrome, false, false, false, {}},
+        {chrome, true, false, true, chrome}, {u"firefox"_s, false, true, true, u"firefox"_s},
+        {editor, true, false, true, {}},     {editor, false, false, false, {}},
+        {{}, true, false, true, {}},
+    };
+    for (const Row& row : rows) {
+        FakeDetectionProviders fakes;
+        fakes.camera->identifiers.set(row.camera ? QStringList{u"cam-0"_s} : QStringList{});
+        fakes.microphone->identifiers.set(row.microphone ? QStringList{u"mic-0"_s} : QStringList{});
+        QList<AppSnapshot> apps{runningApp(u"org.kde.dolphin"_s, 10)};
+        if (!row.frontmost.isEmpty())
+            apps.append(runningApp(row.frontmost, 11, true));
 
-void TestDetectionRules::meetingDecisionTable()
-{
-    QFETCH(QString, frontmost);
-    QFETCH(bool, camera);
-    QFETCH(bool, microphone);
-    QFETCH(bool, inMeeting);
-    QFETCH(QString, application);
-
-    FakeDetectionProviders fakes;
-    fakes.camera->identifiers.set(camera ? QStringList{u"cam-0"_s} : QStringList{});
-    fakes.microphone->identifiers.set(microphone ? QStringList{u"mic-0"_s} : QStringList{});
-    QList<AppSnapshot> apps{runningApp(u"org.kde.dolphin"_s, 10)};
-    if (!frontmost.isEmpty())
-        apps.append(runningApp(frontmost, 11, true));
-
-    const MeetingEvidence found = detectMeeting(apps, SmartPauseSettings(), *fakes.camera, *fakes.microphone);
-    QCOMPARE(found.isInMeeting(), inMeeting);
-    QCOMPARE(found.camera, camera);
-    QCOMPARE(found.microphone, microphone);
-    QCOMPARE(found.application.value_or(QString()), application);
+        const MeetingEvidence found = detectMeeting(apps, SmartPauseSettings(), *fakes.camera, *fakes.microphone);
+        const QByteArray name =
+            (row.frontmost + u' ' + QString::number(row.camera) + QString::number(row.microphone)).toUtf8();
+        QVERIFY2(found.isInMeeting() == row.inMeeting, name.constData());
+        QVERIFY2(found.camera == row.camera && found.microphone == row.microphone, name.constData());
+        QVERIFY2(found.application.value_or(QString()) == row.application, name.constData());
+    }
 }
 
 void TestDetectionRules::meetingExclusionsAndDevices()
