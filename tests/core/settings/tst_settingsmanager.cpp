@@ -1,11 +1,9 @@
 #include "FakeLaunchAtLogin.h"
 #include "InMemoryUserDefaults.h"
 #include "settings/JsonRecord.h"
-#include "settings/SettingsFileStore.h"
 #include "settings/SettingsManager.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace velto;
@@ -50,7 +48,6 @@ private Q_SLOTS:
     void behaviourAndTimingEditsTurnThePresetCustom();
     void applyingPresets();
     void resetRestoresEverythingAndSavesEachStep();
-    void settingsSurviveARestartThroughTheFile();
 };
 
 void TestSettingsManager::firstStartWritesNothingUntilTheFirstChange()
@@ -253,38 +250,6 @@ void TestSettingsManager::resetRestoresEverythingAndSavesEachStep()
     QCOMPARE(store.writtenKeys.size(), 9 * allKeys.size());
     // The selection is assigned once, Balanced, ahead of the configuration.
     QCOMPARE(selectionChanged.size(), 1);
-}
-
-void TestSettingsManager::settingsSurviveARestartThroughTheFile()
-{
-    QTemporaryDir dir;
-    const QString file = dir.filePath(u"velto.ini"_s);
-    Schedule schedule;
-    schedule.isEnabled = true;
-    schedule.removeDay(Weekday::Sunday);
-    schedule.startTime = {8, 30};
-    {
-        SettingsFileStore store(file);
-        SettingsManager settings(store, nullptr);
-        settings.applyBreakPreset(BreakPresetKind::DeepFocus);
-        settings.setSchedule(schedule);
-        settings.setIsEnabled(false);
-    }
-    // Parse the file as a fresh process would, without QSettings' in-process cache.
-    QFile saved(file);
-    QVERIFY(saved.open(QIODevice::ReadOnly));
-    QSettings::SettingsMap map;
-    QVERIFY(SettingsFileStore::readTypedIni(saved, map));
-    InMemoryUserDefaults reread;
-    for (auto it = map.cbegin(); it != map.cend(); ++it)
-        reread.values.insert(it.key(), it.value());
-    QCOMPARE(reread.values.size(), allKeys.size());
-
-    const SettingsManager settings(reread, nullptr);
-    QVERIFY(!settings.isEnabled());
-    QCOMPARE(settings.breakPresetSelection(), BreakPresetKind::DeepFocus);
-    QCOMPARE(settings.breakConfiguration().timing(), *presetTiming(BreakPresetKind::DeepFocus));
-    QCOMPARE(settings.schedule(), schedule);
 }
 
 QTEST_GUILESS_MAIN(TestSettingsManager)
