@@ -159,10 +159,6 @@ private Q_SLOTS:
         in.showTimerInMenuBar = false;
         p = makeMenuBarPresentation(in);
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 1499.4, 1500), TrayIconFace{});
-        in.showTimerInMenuBar = true;
-        in.state = BreakState::Idle;
-        p = makeMenuBarPresentation(in);
-        QVERIFY(!makeTrayIconFace(p, BreakState::Idle, 1500, 1500).showsTimer);
     }
 
     void menuItemsForWorkingDisabledAndHeld()
