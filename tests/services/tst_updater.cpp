@@ -193,29 +193,21 @@ private Q_SLOTS:
     }
 
     // Nothing newer clears an earlier found update, with the reason the delegate contract names.
-    void reportsNoUpdateWithItsReason_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("hostVersion");
-        QTest::addColumn<int>("reason");
-        QTest::newRow("up to date") << u"/current.xml"_s << u"1.0"_s << 1;
-        QTest::newRow("newer local version") << u"/newer-than-this.xml"_s << u"1.0.1"_s << 2;
-    }
     void reportsNoUpdateWithItsReason()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, hostVersion);
-        QFETCH(int, reason);
-        Rig rig(m_server.url(u"/two-newer.xml"_s), u"0.5"_s);
-        QVERIFY(rig.check(false));
-        QVERIFY(rig.model.updateAvailable());
+        const QList<std::tuple<QString, QString, int>> cases{{u"/current.xml"_s, u"1.0"_s, 1},
+                                                             {u"/newer-than-this.xml"_s, u"1.0.1"_s, 2}};
+        for (const auto& [path, hostVersion, reason] : cases) {
+            Rig rig(m_server.url(u"/two-newer.xml"_s), u"0.5"_s);
+            QVERIFY(rig.check(false));
+            QVERIFY(rig.model.updateAvailable());
 
-        rig.setFeed(m_server.url(path), hostVersion);
-        QVERIFY(rig.check(true));
-
-        QCOMPARE(rig.delegate.errors.last().code, int(UpdaterErrors::NoUpdateFound));
-        QCOMPARE(rig.delegate.lastReason(), reason);
-        QVERIFY(!rig.model.updateAvailable());
+            rig.setFeed(m_server.url(path), hostVersion);
+            QVERIFY(rig.check(true));
+            QCOMPARE(rig.delegate.errors.last().code, int(UpdaterErrors::NoUpdateFound));
+            QCOMPARE(rig.delegate.lastReason(), reason);
+            QVERIFY(!rig.model.updateAvailable());
+        }
     }
 
     // A check that fails says why, and an update found earlier stays published untouched.
@@ -298,25 +290,20 @@ private Q_SLOTS:
     }
 
     // Dismissing or downloading leaves the published state as it was; downloading opens the release page.
-    void otherChoicesKeepTheState_data()
-    {
-        QTest::addColumn<UpdateChoice>("choice");
-        QTest::addColumn<QUrl>("opened");
-        QTest::newRow("dismiss") << UpdateChoice::Dismiss << QUrl();
-        QTest::newRow("download") << UpdateChoice::Install << QUrl(u"https://velto.app/releases/1.10"_s);
-    }
     void otherChoicesKeepTheState()
     {
-        QFETCH(UpdateChoice, choice);
-        QFETCH(QUrl, opened);
-        Rig rig(m_server.url(u"/two-newer.xml"_s), u"1.0"_s);
-        QVERIFY(rig.check(true));
-        QSignalSpy willChange(&rig.model, &UpdateAvailabilityModel::objectWillChange);
-        rig.driver->pendingReply(choice);
-        QCOMPARE(rig.delegate.choices, QList<UpdateChoice>{choice});
-        QCOMPARE(willChange.size(), 0);
-        QCOMPARE(rig.opened.value_or(QUrl()), opened);
-        QVERIFY(!rig.store.values.contains(Updater::skippedVersionKey.toString()));
+        const QList<std::pair<UpdateChoice, QUrl>> cases{
+            {UpdateChoice::Dismiss, QUrl()}, {UpdateChoice::Install, QUrl(u"https://velto.app/releases/1.10"_s)}};
+        for (const auto& [choice, opened] : cases) {
+            Rig rig(m_server.url(u"/two-newer.xml"_s), u"1.0"_s);
+            QVERIFY(rig.check(true));
+            QSignalSpy willChange(&rig.model, &UpdateAvailabilityModel::objectWillChange);
+            rig.driver->pendingReply(choice);
+            QCOMPARE(rig.delegate.choices, QList<UpdateChoice>{choice});
+            QCOMPARE(willChange.size(), 0);
+            QCOMPARE(rig.opened.value_or(QUrl()), opened);
+            QVERIFY(!rig.store.values.contains(Updater::skippedVersionKey.toString()));
+        }
     }
 
     // Two requests during one check make one request and one answer; the user's request gets its window.

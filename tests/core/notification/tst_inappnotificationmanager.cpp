@@ -25,15 +25,12 @@ struct Rig {
         manager = std::make_unique<InAppNotificationManager>(
             std::move(fakePresenter), &player, &settings, std::move(fakeTimer),
             [this](QObject* context, std::function<void()> action) { queue.post(context, std::move(action)); });
-        manager->onBreakNow = [this] {
-            journal->append(u"breakNow showing=%1"_s.arg(manager->isShowing() ? u"true"_s : u"false"_s));
+        auto note = [this](const QString& what) {
+            journal->append(what + (manager->isShowing() ? u" showing=true"_s : u" showing=false"_s));
         };
-        manager->onPause = [this](double seconds) {
-            journal->append(u"pause %1 showing=%2"_s.arg(seconds).arg(manager->isShowing() ? u"true"_s : u"false"_s));
-        };
-        manager->onSkip = [this] {
-            journal->append(u"skip showing=%1"_s.arg(manager->isShowing() ? u"true"_s : u"false"_s));
-        };
+        manager->onBreakNow = [note] { note(u"breakNow"_s); };
+        manager->onPause = [note](double seconds) { note(u"pause %1"_s.arg(seconds)); };
+        manager->onSkip = [note] { note(u"skip"_s); };
     }
 
     // Shows a card and lets the queued presentation run.

@@ -51,7 +51,6 @@ private Q_SLOTS:
     void smartPauseSettingsJson();
     void notificationSettingsJson();
     void breakAppearanceJson();
-    void gradientThemes();
 };
 
 void TestSettingsRecords::enumerationsRoundTripTheirRawValuesCaseSensitively()
@@ -234,17 +233,6 @@ void TestSettingsRecords::breakAppearanceJson()
     QCOMPARE(BreakAppearance::fromJson(with(json, u"backgroundColor"_s, parse(R"({"red":1,"green":1,"blue":1})"))),
              std::nullopt);
     QCOMPARE(BreakAppearance::fromJson(without(json, u"customMessages"_s)), std::nullopt);
-}
-
-void TestSettingsRecords::gradientThemes()
-{
-    for (const GradientTheme theme : allCases<GradientTheme>()) {
-        for (const CodableColor& stop : gradientColors(theme)) {
-            QCOMPARE(stop.opacity, 1.0);
-            QVERIFY2(stop.red < 0.5 && stop.green < 0.5 && stop.blue < 0.5, "gradients are dark");
-        }
-        QCOMPARE(accentColor(theme).opacity, 1.0);
-    }
 }
 
 QTEST_GUILESS_MAIN(TestSettingsRecords)
