@@ -104,15 +104,14 @@ class TestUpdater : public QObject {
         QDateTime now = QDateTime(QDate(2026, 3, 2), QTime(9, 0), Qt::UTC);
         std::optional<QUrl> opened;
 
-        Rig(const QUrl& feed, const QString& hostVersion, std::chrono::milliseconds timeout = std::chrono::seconds(5),
-            qint64 maxBytes = 64 * 1024)
+        Rig(const QUrl& feed, const QString& hostVersion, std::chrono::milliseconds timeout = std::chrono::seconds(5))
         {
             UpdaterConfiguration configuration;
             configuration.feedUrl = feed;
             configuration.hostVersion = hostVersion;
             configuration.systemVersion = u"6.1"_s;
             configuration.timeout = timeout;
-            configuration.maxFeedBytes = maxBytes;
+            configuration.maxFeedBytes = 64 * 1024;
             rebuild(configuration);
         }
         // A fresh updater on the same store and model, as after a restart.
@@ -227,7 +226,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         QFETCH(int, code);
-        Rig rig(m_server.url(u"/two-newer.xml"_s), u"1.0"_s, std::chrono::milliseconds(200), 64 * 1024);
+        Rig rig(m_server.url(u"/two-newer.xml"_s), u"1.0"_s, std::chrono::milliseconds(200));
         QVERIFY(rig.check(false));
         QCOMPARE(rig.model.availableVersionDisplayString(), u"1.10 Spring"_s);
 

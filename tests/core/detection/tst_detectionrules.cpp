@@ -11,23 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Every detection off; each test turns on what it exercises.
-SmartPauseSettings nothingDetected()
-{
-    SmartPauseSettings s;
-    s.detectMeetings = false;
-    s.detectVideoPlayback = false;
-    s.detectScreenRecording = false;
-    s.detectFullscreenGaming = false;
-    s.detectIdleTime = false;
-    return s;
-}
-
-DeepFocusApp focus(const QString& name, const QString& bundleIdentifier, DeepFocusMode mode)
-{
-    return {name, bundleIdentifier, mode};
-}
-
 WindowDescriptor window(qint32 owner, QRectF bounds, int layer = 0)
 {
     return {owner, bounds, layer};
@@ -280,9 +263,9 @@ void TestDetectionRules::focusApplications()
     const auto& windows = *fakes.windowList;
     fakes.windowList->windows.set({window(20, QRectF(0, 0, 800, 600))});
     const QList<DeepFocusApp> entries{
-        focus(u"Krita"_s, u"org.kde.krita"_s, DeepFocusMode::WhenForegroundFullscreen),
-        focus(u"Kate"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground),
-        focus(u"Blender"_s, u"org.blender.Blender"_s, DeepFocusMode::WhenOpen),
+        {u"Krita"_s, u"org.kde.krita"_s, DeepFocusMode::WhenForegroundFullscreen},
+        {u"Kate"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground},
+        {u"Blender"_s, u"org.blender.Blender"_s, DeepFocusMode::WhenOpen},
     };
     auto inFocus = [&](const QList<AppSnapshot>& apps) {
         return detectDeepFocusApp(apps, frontmostApplication(apps), entries, screen, windows);
@@ -304,8 +287,8 @@ void TestDetectionRules::focusApplications()
     QVERIFY(!inFocus({AppSnapshot{std::nullopt, true, 50}, blenderBehind}));
 
     // The first entry for an application is the one that counts.
-    const QList<DeepFocusApp> twice{focus(u"A"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForegroundFullscreen),
-                                    focus(u"B"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground)};
+    const QList<DeepFocusApp> twice{{u"A"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForegroundFullscreen},
+                                    {u"B"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground}};
     fakes.windowList->windows.set({});
     const QList<AppSnapshot> kateFront{runningApp(u"org.kde.kate"_s, 31, true)};
     QVERIFY(!detectDeepFocusApp(kateFront, frontmostApplication(kateFront), twice, screen, windows));
@@ -320,7 +303,9 @@ void TestDetectionRules::passAsksOnlyWhatIsSwitchedOn()
     fakes.screenRecording->recording.set(true);
 
     // Everything off: no question at all, nothing found, no time stamp.
-    SmartPauseSettings settings = nothingDetected();
+    SmartPauseSettings settings;
+    settings.detectMeetings = settings.detectVideoPlayback = settings.detectScreenRecording = false;
+    settings.detectFullscreenGaming = settings.detectIdleTime = false;
     QCOMPARE(detectActivity(fakes.providers(), settings, 60), DetectionSnapshot());
     const std::initializer_list<const FakeCalls*> all{
         fakes.workspace,       fakes.idleTime,    fakes.camera,     fakes.microphone, fakes.videoPlayback,
