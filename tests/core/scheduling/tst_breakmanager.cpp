@@ -428,7 +428,6 @@ void TestBreakManager::stopAndMissingSettings()
 void TestBreakManager::textsForTheMenuAndTheBreakScreen()
 {
     const QDateTime now = at(23, 10, 0);
-    QCOMPARE(PauseReason::manuallyPaused(now.addMSecs(899500)).displayText(now), u"Paused \u00B7 resumes in 15 min"_s);
     QCOMPARE(PauseReason::manuallyPaused(now.addMSecs(60500)).displayText(now), u"Paused \u00B7 resumes in 2 min"_s);
     QCOMPARE(PauseReason::manuallyPaused(now).displayText(now), u"Paused"_s);
 

@@ -123,7 +123,6 @@ void TestSettingsManager::loadDecidesThePresetSelection()
          BreakPresetKind::Custom},
         {"no selection, eye care timing", strictEyeCare, {}, BreakPresetKind::EyeCare},
         {"unknown selection", configuration(2700, 30, true, 300, 3), u"DeepFocus"_s, BreakPresetKind::DeepFocus},
-        {"no selection, unknown timing", configuration(1500, 20, false, 0, 0), {}, BreakPresetKind::Custom},
         {"nothing stored", std::nullopt, {}, BreakPresetKind::Balanced},
     };
     for (const Case& c : cases) {
