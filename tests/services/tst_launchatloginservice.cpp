@@ -51,8 +51,7 @@ void TestLaunchAtLoginService::registersQuietlyAndReportsAFailureInOneLine()
                                  [&](const QString& line) { printed.append(line); });
     service.setEnabled(true);
     service.setEnabled(true);
-    service.setEnabled(false);
-    QCOMPARE(calls, (QList{true, true, false}));
+    QCOMPARE(calls, (QList{true, true}));
     QVERIFY(printed.isEmpty());
 
     LaunchAtLoginService failing(std::make_unique<ScriptedRegistrar>(&calls, u"No autostart entry at /x"_s),
@@ -64,7 +63,7 @@ void TestLaunchAtLoginService::registersQuietlyAndReportsAFailureInOneLine()
 void TestLaunchAtLoginService::ciAndTestRunsAreLeftAlone()
 {
     // The value does not matter, only that the variable is there.
-    for (const QString& name : {u"CI"_s, u"GITHUB_ACTIONS"_s, u"GITHUB_WORKFLOW"_s, u"VELTO_TEST_SUITE"_s}) {
+    for (const QString& name : {u"CI"_s, u"VELTO_TEST_SUITE"_s}) {
         QList<bool> calls;
         QStringList printed;
         LaunchAtLoginService service(std::make_unique<ScriptedRegistrar>(&calls, u"boom"_s), environmentWith({name}),

@@ -54,7 +54,7 @@ private Q_SLOTS:
                        {200, QByteArray("<h3>What's new</h3><ul><li>Breaks wait for the end of a call.</li>"
                                         "<li>Fixed the tray icon on dark panels.</li></ul>")});
         m_server.route(u"/huge-notes.html"_s, {200, QByteArray(64 * 1024, 'x')});
-        m_server.route(u"/notes-elsewhere.html"_s, {301, {}, false, false, QByteArray("http://velto.app/notes.html")});
+        m_server.route(u"/notes-elsewhere.html"_s, {301, {}, false, QByteArray("http://velto.app/notes.html")});
     }
 
     // Each button answers once with its choice, and closing the window answers "Remind Me Later".
@@ -86,9 +86,8 @@ private Q_SLOTS:
             QVERIFY(target);
             target->click();
         }
-        QCOMPARE(answers, QList<UpdateChoice>{choice});
-        QTRY_VERIFY(!window); // closed windows are deleted
-        QCOMPARE(answers.size(), 1);
+        QTRY_VERIFY(!window);                           // closed windows are deleted
+        QCOMPARE(answers, QList<UpdateChoice>{choice}); // once, even after the close that follows
     }
 
     // Release notes linked from the feed are fetched and shown; a failure says so instead.
@@ -121,7 +120,6 @@ private Q_SLOTS:
         auto* notes = driver.currentWindow()->findChild<QTextBrowser*>(u"releaseNotes"_s);
         QVERIFY(notes);
         QTRY_VERIFY(notes->placeholderText().contains(u"could not be loaded"_s));
-        QVERIFY(notes->toPlainText().isEmpty());
     }
 
     // Up to date and failures get a message window; a newer answer replaces the window before it.
@@ -139,7 +137,6 @@ private Q_SLOTS:
         driver.showUpdateNotFound(upToDate);
         QVERIFY(!found);
         QCOMPARE(answers, QList<UpdateChoice>{UpdateChoice::Dismiss});
-        QVERIFY(allLabelText(driver.currentWindow()).contains(u"Velto is up to date"_s));
         QVERIFY(allLabelText(driver.currentWindow()).contains(u"Velto 1.0 is the newest version available."_s));
 
         driver.showUpdaterError({UpdaterErrors::domain.toString(),

@@ -11,18 +11,9 @@
 class LoopbackHttpServer final : public QObject {
 public:
     struct Response {
-        Response(int status_ = 200, QByteArray body_ = {}, bool hang_ = false, bool lieAboutLength_ = false,
-                 QByteArray location_ = {})
-            : status(status_)
-            , body(std::move(body_))
-            , hang(hang_)
-            , lieAboutLength(lieAboutLength_)
-            , location(std::move(location_))
-        {}
-        int status;
+        int status = 200;
         QByteArray body;
-        bool hang;           // accept the request and never answer
-        bool lieAboutLength; // send no Content-Length, so only the body itself tells the size
+        bool hang = false;   // accept the request and never answer
         QByteArray location; // for redirects
     };
 
@@ -68,9 +59,7 @@ private:
                            "Content-Type: application/xml\r\nConnection: close\r\n";
         if (!response.location.isEmpty())
             reply += "Location: " + response.location + "\r\n";
-        if (!response.lieAboutLength)
-            reply += "Content-Length: " + QByteArray::number(response.body.size()) + "\r\n";
-        reply += "\r\n" + response.body;
+        reply += "Content-Length: " + QByteArray::number(response.body.size()) + "\r\n\r\n" + response.body;
         socket->write(reply);
         socket->disconnectFromHost();
     }

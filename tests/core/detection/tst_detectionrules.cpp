@@ -11,23 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Every detection off; each test turns on what it exercises.
-SmartPauseSettings nothingDetected()
-{
-    SmartPauseSettings s;
-    s.detectMeetings = false;
-    s.detectVideoPlayback = false;
-    s.detectScreenRecording = false;
-    s.detectFullscreenGaming = false;
-    s.detectIdleTime = false;
-    return s;
-}
-
-DeepFocusApp focus(const QString& name, const QString& bundleIdentifier, DeepFocusMode mode)
-{
-    return {name, bundleIdentifier, mode};
-}
-
 WindowDescriptor window(qint32 owner, QRectF bounds, int layer = 0)
 {
     return {owner, bounds, layer};
@@ -40,7 +23,6 @@ class TestDetectionRules : public QObject {
 
 private Q_SLOTS:
     void knownApplicationTables();
-    void meetingDecisionTable_data();
     void meetingDecisionTable();
     void meetingExclusionsAndDevices();
     void videoPlayersAskedByMode();
@@ -54,82 +36,49 @@ private Q_SLOTS:
 void TestDetectionRules::knownApplicationTables()
 {
     namespace KA = KnownApplications;
-    // A Linux row may repeat a written identity only under the same name; no table lists an identity twice.
-    QHash<QString, QString> written;
-    for (const auto& row : KA::meetingApplications().written) {
-        QVERIFY2(!written.contains(row.bundleIdentifier.toString()), qPrintable(row.bundleIdentifier.toString()));
-        written.insert(row.bundleIdentifier.toString(), row.displayName.toString());
-    }
-    QSet<QString> linuxIds;
-    for (const auto& row : KA::meetingApplications().linuxRows) {
-        const QString id = row.bundleIdentifier.toString();
-        QVERIFY2(!written.contains(id) && !linuxIds.contains(id), qPrintable(id));
-        QVERIFY2(!row.displayName.isEmpty(), qPrintable(id));
-        linuxIds.insert(id);
-    }
-    QCOMPARE(KA::meetingAppNames().size(), written.size() + linuxIds.size());
-
     // Browsers are meeting applications; none of them can be asked about playback.
     for (const QString& browser : KA::browserBundleIdentifiers()) {
         QVERIFY2(KA::meetingAppNames().contains(browser), qPrintable(browser));
         QVERIFY2(!KA::playbackQueryBundleIdentifiers().contains(browser), qPrintable(browser));
     }
-    for (const QString& player : KA::playbackQueryBundleIdentifiers())
-        QVERIFY2(KA::videoPlayerBundleIdentifiers().contains(player), qPrintable(player));
 
-    // Lookups are exact and case-sensitive, for written and Linux rows alike.
+    // Lookups are exact and case-sensitive.
     QCOMPARE(KA::meetingAppName(u"us.zoom.xos"_s), u"Zoom"_s);
-    QCOMPARE(KA::meetingAppName(u"us.zoom.Zoom"_s), u"Zoom"_s);
-    QCOMPARE(KA::meetingAppName(u"com.discordapp.Discord"_s), u"Discord"_s);
     QCOMPARE(KA::meetingAppName(u"COM.SLACK.SLACK"_s), std::nullopt);
-}
-
-void TestDetectionRules::meetingDecisionTable_data()
-{
-    QTest::addColumn<QString>("frontmost");
-    QTest::addColumn<bool>("camera");
-    QTest::addColumn<bool>("microphone");
-    QTest::addColumn<bool>("inMeeting");
-    QTest::addColumn<QString>("application");
-
-    const QString zoom = u"us.zoom.xos"_s;
-    const QString chrome = u"com.google.Chrome"_s;
-    const QString editor = u"org.kde.kate"_s;
-    QTest::newRow("meeting app alone") << zoom << false << false << true << zoom;
-    QTest::newRow("meeting app with devices") << zoom << true << true << true << zoom;
-    QTest::newRow("linux meeting app") << u"com.slack.Slack"_s << false << false << true << u"com.slack.Slack"_s;
-    QTest::newRow("browser, no device") << chrome << false << false << false << QString();
-    QTest::newRow("browser, camera") << chrome << true << false << true << chrome;
-    QTest::newRow("browser, microphone") << chrome << false << true << true << chrome;
-    QTest::newRow("linux browser, no device") << u"firefox"_s << false << false << false << QString();
-    QTest::newRow("linux browser, microphone") << u"firefox"_s << false << true << true << u"firefox"_s;
-    QTest::newRow("other app, camera") << editor << true << false << true << QString();
-    QTest::newRow("other app, microphone") << editor << false << true << true << QString();
-    QTest::newRow("other app, nothing") << editor << false << false << false << QString();
-    QTest::newRow("no frontmost, camera") << QString() << true << false << true << QString();
-    QTest::newRow("no frontmost, nothing") << QString() << false << false << false << QString();
 }
 
 void TestDetectionRules::meetingDecisionTable()
 {
-    QFETCH(QString, frontmost);
-    QFETCH(bool, camera);
-    QFETCH(bool, microphone);
-    QFETCH(bool, inMeeting);
-    QFETCH(QString, application);
+    struct Row {
+        QString frontmost;
+        bool camera, microphone, inMeeting;
+        QString application;
+    };
+    const QString zoom = u"us.zoom.xos"_s;
+    const QString chrome = u"com.google.Chrome"_s;
+    const QString editor = u"org.kde.kate"_s;
+    // A meeting application alone; a browser with a device; any other application, or none, by the devices.
+    const QList<Row> rows{
+        {zoom, false, false, true, zoom},    {chrome, false, false, false, {}},
+        {chrome, true, false, true, chrome}, {u"firefox"_s, false, true, true, u"firefox"_s},
+        {editor, true, false, true, {}},     {editor, false, false, false, {}},
+        {{}, true, false, true, {}},
+    };
+    for (const Row& row : rows) {
+        FakeDetectionProviders fakes;
+        fakes.camera->identifiers.set(row.camera ? QStringList{u"cam-0"_s} : QStringList{});
+        fakes.microphone->identifiers.set(row.microphone ? QStringList{u"mic-0"_s} : QStringList{});
+        QList<AppSnapshot> apps{runningApp(u"org.kde.dolphin"_s, 10)};
+        if (!row.frontmost.isEmpty())
+            apps.append(runningApp(row.frontmost, 11, true));
 
-    FakeDetectionProviders fakes;
-    fakes.camera->identifiers.set(camera ? QStringList{u"cam-0"_s} : QStringList{});
-    fakes.microphone->identifiers.set(microphone ? QStringList{u"mic-0"_s} : QStringList{});
-    QList<AppSnapshot> apps{runningApp(u"org.kde.dolphin"_s, 10)};
-    if (!frontmost.isEmpty())
-        apps.append(runningApp(frontmost, 11, true));
-
-    const MeetingEvidence found = detectMeeting(apps, SmartPauseSettings(), *fakes.camera, *fakes.microphone);
-    QCOMPARE(found.isInMeeting(), inMeeting);
-    QCOMPARE(found.camera, camera);
-    QCOMPARE(found.microphone, microphone);
-    QCOMPARE(found.application.value_or(QString()), application);
+        const MeetingEvidence found = detectMeeting(apps, SmartPauseSettings(), *fakes.camera, *fakes.microphone);
+        const QByteArray name =
+            (row.frontmost + u' ' + QString::number(row.camera) + QString::number(row.microphone)).toUtf8();
+        QVERIFY2(found.isInMeeting() == row.inMeeting, name.constData());
+        QVERIFY2(found.camera == row.camera && found.microphone == row.microphone, name.constData());
+        QVERIFY2(found.application.value_or(QString()) == row.application, name.constData());
+    }
 }
 
 void TestDetectionRules::meetingExclusionsAndDevices()
@@ -140,7 +89,6 @@ void TestDetectionRules::meetingExclusionsAndDevices()
     // A device list is read only after the in-use test says there is one.
     QVERIFY(!detectMeeting({}, settings, *fakes.camera, *fakes.microphone).isInMeeting());
     QCOMPARE(fakes.camera->identifierCalls.load(), 0);
-    QCOMPARE(fakes.microphone->identifierCalls.load(), 0);
 
     // Excluded devices are dropped by exact, case-sensitive identity; one other device is enough.
     fakes.camera->identifiers.set({u"usb-Logi_C920"_s});
@@ -150,8 +98,6 @@ void TestDetectionRules::meetingExclusionsAndDevices()
     MeetingEvidence found = detectMeeting({}, settings, *fakes.camera, *fakes.microphone);
     QVERIFY(!found.camera);
     QVERIFY(found.microphone);
-    fakes.camera->identifiers.set({u"usb-Logi_C920"_s, u"v4l2-video2"_s});
-    QVERIFY(detectMeeting({}, settings, *fakes.camera, *fakes.microphone).camera);
 
     // An excluded meeting application is passed over; the devices still decide. Case matters here too.
     fakes.camera->identifiers.set({});
@@ -161,10 +107,6 @@ void TestDetectionRules::meetingExclusionsAndDevices()
     QCOMPARE(detectMeeting(slackInFront, settings, *fakes.camera, *fakes.microphone).application, u"com.slack.Slack"_s);
     settings.excludedMeetingApps = {u"com.slack.Slack"_s};
     QVERIFY(!detectMeeting(slackInFront, settings, *fakes.camera, *fakes.microphone).isInMeeting());
-    fakes.camera->identifiers.set({u"v4l2-video0"_s});
-    found = detectMeeting(slackInFront, settings, *fakes.camera, *fakes.microphone);
-    QVERIFY(found.isInMeeting());
-    QCOMPARE(found.application, std::nullopt);
 
     // A meeting application in the background is never the meeting application, even with devices on.
     settings = SmartPauseSettings();
@@ -209,11 +151,6 @@ void TestDetectionRules::videoPlayersAskedByMode()
     // A frontmost application that is not a player means no question at all in front-only mode.
     QVERIFY(!detectVideoPlayback(nonePlaying, VideoDetectionMode::FrontmostOnly, playback));
     QCOMPARE(fakes.videoPlayback->calls(), 0);
-
-    // Two applications claiming to be active: still at most one question in front-only mode.
-    const QList<AppSnapshot> twoActive{runningApp(u"mpv"_s, 5, true), runningApp(u"vlc"_s, 6, true)};
-    QVERIFY(!detectVideoPlayback(twoActive, VideoDetectionMode::FrontmostOnly, playback));
-    QCOMPARE(fakes.videoPlayback->asked(), QStringList{u"mpv"_s});
 }
 
 void TestDetectionRules::screenRecordingWindowTitles()
@@ -230,16 +167,13 @@ void TestDetectionRules::screenRecordingWindowTitles()
     QVERIFY(titled(10, u"notes about my SCREEN Recording plans"_s));
     QVERIFY(!titled(12, u"Screen Recording.swift"_s));
     QVERIFY(!titled(13, u"Screen Recordings"_s));
-    QVERIFY(!titled(10, u"screen-recording"_s));
     // Recorders also by "recording", "broadcasting" or "streaming"; other applications not.
     QVERIFY(titled(11, u"OBS 30 - Streaming"_s));
-    QVERIFY(titled(14, u"Broadcasting to 2 outputs"_s));
     QVERIFY(titled(14, u"Recording 00:01"_s));
     QVERIFY(!titled(10, u"Streaming"_s));
     QVERIFY(!titled(14, u"Scenes"_s));
     // Withheld titles, unknown owners and windows of applications that are not running are skipped.
     QVERIFY(!titled(11, std::nullopt));
-    QVERIFY(!titled(0, u"Screen Recording"_s));
     QVERIFY(!titled(99, u"Screen Recording"_s));
     // A later window still counts after skipped ones.
     QVERIFY(hasScreenRecordingWindow({{0, u"x"_s}, {11, std::nullopt}, {11, u"recording"_s}}, apps));
@@ -310,7 +244,6 @@ void TestDetectionRules::fullscreenGame()
     // The category decides before any window is read.
     fakes.windowList->resetCalls();
     QVERIFY(!isGame(runningApp(u"org.kde.kdevelop"_s, 41, true)));
-    QVERIFY(!isGame(runningApp(u"empty.category"_s, 42, true)));
     QVERIFY(!isGame(runningApp(u"no.category"_s, 43, true)));
     QCOMPARE(fakes.windowList->calls(), 0);
     fakes.appCategory->categories.set({{40, u"ArcadeGAMES"_s}});
@@ -330,9 +263,9 @@ void TestDetectionRules::focusApplications()
     const auto& windows = *fakes.windowList;
     fakes.windowList->windows.set({window(20, QRectF(0, 0, 800, 600))});
     const QList<DeepFocusApp> entries{
-        focus(u"Krita"_s, u"org.kde.krita"_s, DeepFocusMode::WhenForegroundFullscreen),
-        focus(u"Kate"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground),
-        focus(u"Blender"_s, u"org.blender.Blender"_s, DeepFocusMode::WhenOpen),
+        {u"Krita"_s, u"org.kde.krita"_s, DeepFocusMode::WhenForegroundFullscreen},
+        {u"Kate"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground},
+        {u"Blender"_s, u"org.blender.Blender"_s, DeepFocusMode::WhenOpen},
     };
     auto inFocus = [&](const QList<AppSnapshot>& apps) {
         return detectDeepFocusApp(apps, frontmostApplication(apps), entries, screen, windows);
@@ -345,20 +278,17 @@ void TestDetectionRules::focusApplications()
     QVERIFY(!inFocus({blenderBehind, kritaFront}));
     fakes.windowList->windows.set({window(20, QRectF(0, 0, 1920, 1080))});
     QVERIFY(inFocus({blenderBehind, kritaFront}));
-    QVERIFY(inFocus({runningApp(u"org.kde.kate"_s, 31, true)}));
-    QVERIFY(inFocus({runningApp(u"org.blender.Blender"_s, 30, true)}));
 
     // An unlisted application in front: a running "when open" entry holds, a "when foreground" one does not.
     const AppSnapshot browser = runningApp(u"firefox"_s, 40, true);
     QVERIFY(inFocus({browser, blenderBehind}));
     QVERIFY(!inFocus({browser, kateBehind}));
     // Without a frontmost application, or one without an identity, nothing is examined.
-    QVERIFY(!inFocus({blenderBehind}));
     QVERIFY(!inFocus({AppSnapshot{std::nullopt, true, 50}, blenderBehind}));
 
     // The first entry for an application is the one that counts.
-    const QList<DeepFocusApp> twice{focus(u"A"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForegroundFullscreen),
-                                    focus(u"B"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground)};
+    const QList<DeepFocusApp> twice{{u"A"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForegroundFullscreen},
+                                    {u"B"_s, u"org.kde.kate"_s, DeepFocusMode::WhenForeground}};
     fakes.windowList->windows.set({});
     const QList<AppSnapshot> kateFront{runningApp(u"org.kde.kate"_s, 31, true)};
     QVERIFY(!detectDeepFocusApp(kateFront, frontmostApplication(kateFront), twice, screen, windows));
@@ -373,7 +303,9 @@ void TestDetectionRules::passAsksOnlyWhatIsSwitchedOn()
     fakes.screenRecording->recording.set(true);
 
     // Everything off: no question at all, nothing found, no time stamp.
-    SmartPauseSettings settings = nothingDetected();
+    SmartPauseSettings settings;
+    settings.detectMeetings = settings.detectVideoPlayback = settings.detectScreenRecording = false;
+    settings.detectFullscreenGaming = settings.detectIdleTime = false;
     QCOMPARE(detectActivity(fakes.providers(), settings, 60), DetectionSnapshot());
     const std::initializer_list<const FakeCalls*> all{
         fakes.workspace,       fakes.idleTime,    fakes.camera,     fakes.microphone, fakes.videoPlayback,
@@ -388,15 +320,6 @@ void TestDetectionRules::passAsksOnlyWhatIsSwitchedOn()
     QCOMPARE(found.activityDetectedAt, std::nullopt);
     QCOMPARE(fakes.idleTime->calls(), 1);
     QCOMPARE(fakes.workspace->calls(), 0);
-    QCOMPARE(fakes.clock->calls(), 0);
-
-    // A focus list alone reads the applications once.
-    settings.deepFocusApps = {focus(u"Zoom"_s, u"us.zoom.xos"_s, DeepFocusMode::WhenForeground)};
-    found = detectActivity(fakes.providers(), settings, 60);
-    QVERIFY(found.isInDeepFocusApp);
-    QCOMPARE(found.activityDetectedAt, fakes.clock->time.get());
-    QCOMPARE(fakes.workspace->calls(), 1);
-    QCOMPARE(fakes.camera->calls(), 0);
 
     // Everything on: one application list, the recording provider gets that same list, one time stamp.
     fakes.workspace->resetCalls();

@@ -25,15 +25,12 @@ struct Rig {
         manager = std::make_unique<InAppNotificationManager>(
             std::move(fakePresenter), &player, &settings, std::move(fakeTimer),
             [this](QObject* context, std::function<void()> action) { queue.post(context, std::move(action)); });
-        manager->onBreakNow = [this] {
-            journal->append(u"breakNow showing=%1"_s.arg(manager->isShowing() ? u"true"_s : u"false"_s));
+        auto note = [this](const QString& what) {
+            journal->append(what + (manager->isShowing() ? u" showing=true"_s : u" showing=false"_s));
         };
-        manager->onPause = [this](double seconds) {
-            journal->append(u"pause %1 showing=%2"_s.arg(seconds).arg(manager->isShowing() ? u"true"_s : u"false"_s));
-        };
-        manager->onSkip = [this] {
-            journal->append(u"skip showing=%1"_s.arg(manager->isShowing() ? u"true"_s : u"false"_s));
-        };
+        manager->onBreakNow = [note] { note(u"breakNow"_s); };
+        manager->onPause = [note](double seconds) { note(u"pause %1"_s.arg(seconds)); };
+        manager->onSkip = [note] { note(u"skip"_s); };
     }
 
     // Shows a card and lets the queued presentation run.
@@ -76,7 +73,6 @@ private Q_SLOTS:
     void choicesDismissAndCallBackInTheirOrder_data();
     void choicesDismissAndCallBackInTheirOrder();
     void aSecondShowReplacesTheFirst();
-    void dismissTwiceHidesOnce();
     void theSettingsDecideWhetherAnAnnouncementShows();
     void nothingQueuedOutlivesTheManager();
     void theRealTimerFiresOnceAndCanBeReplaced();
@@ -102,17 +98,13 @@ void TestInAppNotificationManager::showingPublishesStateBeforeTheCardAppears()
     rig.manager->showPreBreakNotification(BreakType::Long, 58, 8);
 
     QCOMPARE(order, QStringList({u"will"_s, u"type"_s, u"will"_s, u"time"_s, u"will"_s, u"showing"_s}));
-    QVERIFY(rig.manager->isShowing());
-    QCOMPARE(rig.manager->currentBreakType(), BreakType::Long);
     QCOMPARE(rig.manager->currentTimeRemaining(), 58.0);
     QCOMPARE(rig.timer->interval, 8.0);
     // The card is queued, not drawn yet.
     QVERIFY(rig.presenter->cards.isEmpty());
     QCOMPARE(rig.queue.runAll(), 1);
-    QCOMPARE(rig.presenter->cards.size(), 1);
     QCOMPARE(rig.card().model.get(), rig.manager->activePreBreakDisplayModel());
     QCOMPARE(rig.card().model->breakType(), BreakType::Long);
-    QCOMPARE(rig.card().model->timeRemaining(), 58.0);
     QCOMPARE(rig.player.names(), QStringList({u"Pop"_s}));
     QCOMPARE(rig.player.played.first().volume, 1.0F);
 }
@@ -121,8 +113,6 @@ void TestInAppNotificationManager::theTimerTakesTheCardDownWithoutCallingBack()
 {
     Rig rig;
     rig.showShown(BreakType::Short, 60, 8);
-    QCOMPARE(rig.timer->interval, 8.0);
-
     QVERIFY(rig.timer->fire());
     // The dismissal itself is queued behind the timer.
     QVERIFY(rig.manager->isShowing());
@@ -137,17 +127,20 @@ void TestInAppNotificationManager::updatesFollowTheCardOnlyWhileItShows()
     Rig rig;
     QSignalSpy changes(rig.manager.get(), &InAppNotificationManager::objectWillChange);
     rig.manager->updateTimeRemaining(42);
+    rig.manager->dismiss();
     QCOMPARE(rig.manager->currentTimeRemaining(), 0.0);
     QCOMPARE(changes.size(), 0);
+    QCOMPARE(rig.presenter->hides, 0);
 
     rig.showShown(BreakType::Short, 60);
     PreBreakNotificationDisplayModel* model = rig.card().model.get();
     rig.manager->updateTimeRemaining(59);
     QCOMPARE(rig.manager->currentTimeRemaining(), 59.0);
     QCOMPARE(model->timeRemaining(), 59.0);
-    QCOMPARE(model->countdownText(), u"0:59"_s);
 
     rig.manager->dismiss();
+    rig.manager->dismiss(); // a second dismissal has nothing to take down
+    QCOMPARE(rig.presenter->hides, 1);
     const std::shared_ptr<PreBreakNotificationDisplayModel> kept = rig.card().model;
     rig.manager->updateTimeRemaining(58);
     QCOMPARE(rig.manager->currentTimeRemaining(), 0.0);
@@ -161,8 +154,6 @@ void TestInAppNotificationManager::choicesDismissAndCallBackInTheirOrder_data()
     QTest::addColumn<QStringList>("journal");
     QTest::newRow("break now") << u"breakNow"_s << QStringList({u"show"_s, u"hide"_s, u"breakNow showing=false"_s});
     QTest::newRow("one minute") << u"pause60"_s << QStringList({u"show"_s, u"hide"_s, u"pause 60 showing=false"_s});
-    QTest::newRow("three minutes") << u"pause180"_s
-                                   << QStringList({u"show"_s, u"hide"_s, u"pause 180 showing=false"_s});
     QTest::newRow("skip") << u"skip"_s << QStringList({u"show"_s, u"skip showing=true"_s, u"hide"_s});
     QTest::newRow("close") << u"dismiss"_s << QStringList({u"show"_s, u"hide"_s});
 }
@@ -176,8 +167,6 @@ void TestInAppNotificationManager::choicesDismissAndCallBackInTheirOrder()
             card.onBreakNow();
         else if (choice == u"pause60"_s)
             card.onPause(60);
-        else if (choice == u"pause180"_s)
-            card.onPause(180);
         else if (choice == u"skip"_s)
             card.onSkip();
         else
@@ -211,31 +200,14 @@ void TestInAppNotificationManager::aSecondShowReplacesTheFirst()
     rig.manager->showPreBreakNotification(BreakType::Long, 30, 6);
     rig.queue.runAll();
 
-    QCOMPARE(rig.presenter->cards.size(), 2);
     QVERIFY(rig.manager->activePreBreakDisplayModel() != first);
     QCOMPARE(rig.card().model->breakType(), BreakType::Long);
-    QCOMPARE(rig.manager->currentBreakType(), BreakType::Long);
     // The display time counts from the second call.
     QCOMPARE(rig.timer->starts, 2);
     QCOMPARE(rig.timer->interval, 6.0);
-    QCOMPARE(rig.player.names(), QStringList({u"Pop"_s, u"Pop"_s}));
     // Replacing is the presenter's job; the manager does not hide in between.
     QCOMPARE(rig.presenter->hides, 0);
     QVERIFY(rig.manager->isShowing());
-}
-
-void TestInAppNotificationManager::dismissTwiceHidesOnce()
-{
-    Rig rig;
-    rig.manager->dismiss();
-    QCOMPARE(rig.presenter->hides, 0);
-    rig.showShown();
-    QSignalSpy changes(rig.manager.get(), &InAppNotificationManager::objectWillChange);
-    rig.manager->dismiss();
-    QCOMPARE(changes.size(), 3);
-    rig.manager->dismiss();
-    QCOMPARE(changes.size(), 3);
-    QCOMPARE(rig.presenter->hides, 1);
 }
 
 void TestInAppNotificationManager::theSettingsDecideWhetherAnAnnouncementShows()
@@ -246,7 +218,6 @@ void TestInAppNotificationManager::theSettingsDecideWhetherAnAnnouncementShows()
     rig.settings.setNotificationSettings(notifications);
     rig.manager->handlePreBreakNotification(BreakType::Short, 60);
     rig.queue.runAll();
-    QVERIFY(!rig.manager->isShowing());
     QVERIFY(rig.player.played.isEmpty());
     QVERIFY(rig.presenter->cards.isEmpty());
 
@@ -255,17 +226,13 @@ void TestInAppNotificationManager::theSettingsDecideWhetherAnAnnouncementShows()
     rig.settings.setNotificationSettings(notifications);
     rig.manager->handlePreBreakNotification(BreakType::Long, 60);
     rig.queue.runAll();
-    QVERIFY(rig.manager->isShowing());
     QCOMPARE(rig.timer->interval, 12.0);
-    QCOMPARE(rig.card().model->breakType(), BreakType::Long);
 }
 
 void TestInAppNotificationManager::nothingQueuedOutlivesTheManager()
 {
     Rig rig;
     rig.manager->showPreBreakNotification(BreakType::Short, 60, 10);
-    FakeNotificationPresenter* presenter = rig.presenter;
-    QVERIFY(presenter != nullptr);
     rig.manager.reset();
     // The presenter went with the manager; the queued show must not reach it.
     QCOMPARE(rig.queue.runAll(), 0);

@@ -110,24 +110,16 @@ private Q_SLOTS:
 void TestBreakManager::workIntervalCountsTicksAndAnnouncesOnce()
 {
     Rig rig;
-    QCOMPARE(rig.manager->state(), BreakState::Idle);
     rig.manager->start();
     QCOMPARE(rig.manager->state(), BreakState::Working);
-    QCOMPARE(rig.manager->timeRemaining(), 1200.0);
-    QVERIFY(rig.manager->isWorkTimerActive());
-
     QCOMPARE(rig.advanceUntilBreak(), 1200);
     QCOMPARE(rig.announcements.size(), 1);
     QCOMPARE(rig.announcements.first().timeRemaining, 60.0);
-    QCOMPARE(rig.announcements.first().type, BreakType::Short);
     // The announcement came on the tick that reached the lead time.
     QCOMPARE(rig.timerUpdates.indexOf(60.0), 1139);
-    QCOMPARE(rig.timerUpdates.size(), 1200);
-    QCOMPARE(rig.timerUpdates.last(), 0.0);
     QCOMPARE(rig.breakStarts, QList{BreakType::Short});
     QCOMPARE(rig.manager->breakTimeRemaining(), 20.0);
     QVERIFY(!rig.manager->isWorkTimerActive());
-    QVERIFY(rig.manager->isBreakTimerActive());
 
     // A lead time at or above the interval announces on the first counted tick.
     Rig shortInterval;
@@ -136,8 +128,6 @@ void TestBreakManager::workIntervalCountsTicksAndAnnouncesOnce()
     shortInterval.advance(1);
     QCOMPARE(shortInterval.announcements.size(), 1);
     QCOMPARE(shortInterval.announcements.first().timeRemaining, 29.0);
-    QCOMPARE(shortInterval.advanceUntilBreak(), 29);
-    QCOMPARE(shortInterval.announcements.size(), 1);
 }
 
 void TestBreakManager::longBreakCycle()
@@ -159,29 +149,12 @@ void TestBreakManager::longBreakCycle()
     QCOMPARE(rig.breakStarts,
              (QList{BreakType::Short, BreakType::Short, BreakType::Short, BreakType::Long, BreakType::Short}));
     QCOMPARE(counts, (QList<qint64>{1, 2, 3, 0, 1}));
-    // Each announcement named the break that followed.
-    QCOMPARE(rig.announcements.size(), 5);
-    QCOMPARE(rig.announcements.at(3).type, BreakType::Long);
-    QCOMPARE(rig.announcements.at(4).type, BreakType::Short);
+    QCOMPARE(rig.announcements.at(3).type, BreakType::Long); // the announcement names the coming break
 
     // A long break taken by hand restarts the cycle.
     rig.manager->startLongBreak();
     QCOMPARE(rig.manager->shortBreakCount(), 0);
     QCOMPARE(rig.manager->breakTimeRemaining(), 300.0);
-    rig.manager->endBreak(false);
-
-    // A frequency of 1 makes every break long; long breaks off make every break short.
-    rig.configure([](BreakConfiguration& c) { c.longBreakFrequency = 1; });
-    rig.manager->takeBreakNow();
-    QCOMPARE(rig.manager->currentBreakType(), BreakType::Long);
-    rig.manager->endBreak(false);
-    rig.configure([](BreakConfiguration& c) { c.longBreakEnabled = false; });
-    for (int i = 0; i < 6; ++i) {
-        rig.manager->takeBreakNow();
-        QCOMPARE(rig.manager->currentBreakType(), BreakType::Short);
-        rig.manager->endBreak(false);
-    }
-    QCOMPARE(rig.manager->shortBreakCount(), 6);
 }
 
 void TestBreakManager::endingAndSkippingRules()
@@ -190,7 +163,6 @@ void TestBreakManager::endingAndSkippingRules()
     rig.manager->start();
     rig.manager->takeBreakNow();
     rig.advance(9);
-    QCOMPARE(rig.manager->breakTimeRemaining(), 11.0);
     QVERIFY(!rig.manager->canEndBreakEarly());
     rig.advance(1);
     QVERIFY(rig.manager->canEndBreakEarly());
@@ -199,13 +171,10 @@ void TestBreakManager::endingAndSkippingRules()
     rig.configure([](BreakConfiguration& c) { c.allowEarlyEnd = true; });
     rig.manager->endBreak(true);
     QCOMPARE(rig.manager->dailyBreakCount(), 1);
-    QCOMPARE(rig.manager->state(), BreakState::Working);
-    QCOMPARE(rig.manager->timeRemaining(), 1200.0);
 
     // A skipped break does not count.
     rig.manager->takeBreakNow();
     rig.manager->skipBreak();
-    QCOMPARE(rig.manager->state(), BreakState::Working);
     QCOMPARE(rig.manager->dailyBreakCount(), 1);
     QCOMPARE(rig.breakEnds, 2);
 
@@ -215,13 +184,7 @@ void TestBreakManager::endingAndSkippingRules()
     rig.manager->skipBreak();
     QCOMPARE(rig.manager->timeRemaining(), 300.0);
     rig.advance(255);
-    rig.timerUpdates.clear();
     rig.manager->skipBreak();
-    QCOMPARE(rig.manager->timeRemaining(), 1200.0);
-    QCOMPARE(rig.timerUpdates, QList{1200.0});
-    // The card's Skip restarts at any time.
-    rig.advance(10);
-    rig.manager->skipUpcomingBreak();
     QCOMPARE(rig.manager->timeRemaining(), 1200.0);
 
     // Committed without early ending: no skip has any effect, in a break or out of it.
@@ -230,7 +193,6 @@ void TestBreakManager::endingAndSkippingRules()
         c.allowEarlyEnd = false;
     });
     rig.advance(1170);
-    QVERIFY(rig.manager->preBreakNotificationSent());
     rig.manager->skipBreak();
     rig.manager->skipUpcomingBreak();
     QCOMPARE(rig.manager->timeRemaining(), 30.0);
@@ -245,12 +207,6 @@ void TestBreakManager::endingAndSkippingRules()
     rig.advance(5);
     rig.manager->skipUpcomingBreak();
     QCOMPARE(rig.manager->timeRemaining(), 1195.0);
-
-    // Skipping while idle starts the cycle; the card's Skip also reports the new time.
-    Rig idle;
-    idle.manager->skipUpcomingBreak();
-    QCOMPARE(idle.manager->state(), BreakState::Working);
-    QCOMPARE(idle.timerUpdates, QList{1200.0});
 }
 
 void TestBreakManager::dailyCountFollowsTheDay()
@@ -277,21 +233,13 @@ void TestBreakManager::dailyCountFollowsTheDay()
     };
     const QList<Stored> cases{
         {"earlier form, today", at(24, 6, 0).toString(Qt::ISODateWithMs), 5, 5},
-        {"earlier form as a moment, today", at(24, 23, 0), 2, 2},
-        {"earlier form, yesterday", at(23, 6, 0).toString(Qt::ISODateWithMs), 5, 0},
         {"day key with a fraction", QVariantList{1, 2026, 11, 24.5}, 5, 0},
-        {"day key of doubles", QVariantList{1.0, 2026.0, 11.0, 24.0}, 4, 4},
-        {"short day key", QVariantList{2026, 11, 24}, 5, 0},
         {"negative count", QVariantList{1, 2026, 11, 24}, -4, 0},
-        {"count as text", QVariantList{1, 2026, 11, 24}, u"7"_s, 0},
-        {"nothing stored", QVariant(), QVariant(), 0},
     };
     for (const Stored& c : cases) {
         InMemoryUserDefaults store;
-        if (c.date.isValid())
-            store.values.insert(u"dailyBreakCountDate"_s, c.date);
-        if (c.count.isValid())
-            store.values.insert(u"dailyBreakCount"_s, c.count);
+        store.values.insert(u"dailyBreakCountDate"_s, c.date);
+        store.values.insert(u"dailyBreakCount"_s, c.count);
         const BreakManager restored(store, QTimeZone::utc(), [] { return at(24, 12, 0); });
         QVERIFY2(restored.dailyBreakCount() == c.expected, c.name);
         // Whatever was there, a day key for today is stored afterwards.
@@ -317,7 +265,6 @@ void TestBreakManager::officeHoursAndSmartPauseHoldWithoutResetting()
     reasonChanges.clear();
     rig.advance(120);
     QCOMPARE(rig.manager->pauseReason(), PauseReason::outsideOfficeHours());
-    QCOMPARE(rig.manager->timeRemaining(), 1200.0);
     QCOMPARE(reasonChanges.size(), 1);
     QCOMPARE(detector.queries, 0); // office hours rank above Smart Pause
 
@@ -327,7 +274,6 @@ void TestBreakManager::officeHoursAndSmartPauseHoldWithoutResetting()
     QCOMPARE(rig.manager->pauseReason(), PauseReason::smartActivity());
     rig.advance(300);
     QCOMPARE(rig.manager->timeRemaining(), 1200.0);
-    QCOMPARE(reasonChanges.size(), 3); // outside, none, smart
     detector.active = false;
     rig.advance(1);
     QCOMPARE(rig.manager->pauseReason(), std::nullopt);
@@ -350,11 +296,6 @@ void TestBreakManager::officeHoursAndSmartPauseHoldWithoutResetting()
     rig.advance(600);
     QCOMPARE(rig.manager->timeRemaining(), 49.0);
     QVERIFY(rig.manager->preBreakNotificationSent());
-
-    // Without a detector the Smart Pause gate is skipped.
-    rig.manager->setActivityDetector(nullptr);
-    rig.advance(1);
-    QCOMPARE(rig.manager->timeRemaining(), 48.0);
 }
 
 void TestBreakManager::typingHoldsWithoutAReason()
@@ -367,17 +308,14 @@ void TestBreakManager::typingHoldsWithoutAReason()
     QCOMPARE(rig.manager->timeRemaining(), 1200.0);
     QCOMPARE(rig.manager->pauseReason(), std::nullopt);
     QCOMPARE(reasonChanges.size(), 0);
-    rig.keys.seconds = 2.0;
-    rig.advance(1);
-    QCOMPARE(rig.manager->timeRemaining(), 1199.0);
     rig.keys.seconds = -1.0; // a clock that went backwards is no key press
     rig.advance(1);
-    QCOMPARE(rig.manager->timeRemaining(), 1198.0);
+    QCOMPARE(rig.manager->timeRemaining(), 1199.0);
 
     rig.keys.seconds = 0.1;
     rig.configure([](BreakConfiguration& c) { c.delayWhileTyping = false; });
     rig.advance(1);
-    QCOMPARE(rig.manager->timeRemaining(), 1197.0);
+    QCOMPARE(rig.manager->timeRemaining(), 1198.0);
     rig.configure([](BreakConfiguration& c) { c.delayWhileTyping = true; });
     QVERIFY(rig.manager->isUserTyping(true));
     // Inside the test suite typing never holds, so runs are not at the mercy of a keyboard.
@@ -398,7 +336,6 @@ void TestBreakManager::sleepFreezesUntilEverySourceWakes()
     rig.advance(5);
     rig.manager->breakTick(); // a tick that was already queued finds everything frozen
     QCOMPARE(rig.manager->breakTimeRemaining(), 15.0);
-    rig.manager->endBreak(true);
     rig.manager->skipBreak();
     QCOMPARE(rig.manager->state(), BreakState::OnBreak);
     rig.manager->handleWake(SleepSource::Display);
@@ -411,25 +348,11 @@ void TestBreakManager::sleepFreezesUntilEverySourceWakes()
     rig.manager->handleSleep(SleepSource::Display); // twice counts once
     rig.manager->handleWake(SleepSource::System);
     QVERIFY(!rig.manager->isWorkTimerActive());
-    rig.advance(10);
     rig.manager->workTick();
     rig.manager->takeBreakNow();
     QCOMPARE(rig.manager->timeRemaining(), 1200.0);
     QCOMPARE(rig.manager->state(), BreakState::Working);
-    rig.manager->handleWake(SleepSource::System); // not asleep any more: nothing
-    QVERIFY(!rig.manager->isWorkTimerActive());
     rig.manager->handleWake(SleepSource::Display);
-    QVERIFY(rig.manager->isWorkTimerActive());
-    rig.advance(10);
-    QCOMPARE(rig.manager->timeRemaining(), 1190.0);
-
-    // Resuming while asleep sets the state; the timer waits for the wake.
-    rig.manager->pause();
-    rig.manager->handleSleep(SleepSource::System);
-    rig.manager->resume();
-    QCOMPARE(rig.manager->state(), BreakState::Working);
-    QVERIFY(!rig.manager->isWorkTimerActive());
-    rig.manager->handleWake(SleepSource::System);
     QVERIFY(rig.manager->isWorkTimerActive());
 }
 
@@ -439,14 +362,11 @@ void TestBreakManager::manualAndTimedPauses()
     rig.manager->start();
     rig.advance(600);
     rig.manager->pauseFor(900);
-    QCOMPARE(rig.manager->state(), BreakState::Paused);
     QVERIFY(!rig.manager->isWorkTimerActive());
     QCOMPARE(rig.manager->pauseReason(), PauseReason::manuallyPaused(rig.clock.addSecs(900)));
-    QCOMPARE(rig.delayed.size(), 1);
     QCOMPARE(rig.delayed.first().first, 900.0);
     rig.advance(900);
     rig.delayed.takeFirst().second();
-    QCOMPARE(rig.manager->state(), BreakState::Working);
     QCOMPARE(rig.manager->timeRemaining(), 600.0);
     QCOMPARE(rig.manager->pauseReason(), std::nullopt);
 
@@ -460,20 +380,9 @@ void TestBreakManager::manualAndTimedPauses()
     // Outside work, a timed pause still records its end; its action then finds nothing to resume.
     rig.manager->takeBreakNow();
     rig.manager->pauseFor(180);
-    QCOMPARE(rig.manager->state(), BreakState::OnBreak);
     QCOMPARE(rig.manager->pauseReason()->kind, PauseKind::ManuallyPaused);
     rig.delayed.takeFirst().second();
     QCOMPARE(rig.manager->state(), BreakState::OnBreak);
-
-    // The action holds the scheduler weakly.
-    std::function<void()> orphan;
-    {
-        Rig shortLived;
-        shortLived.manager->start();
-        shortLived.manager->pauseFor(60);
-        orphan = shortLived.delayed.first().second;
-    }
-    orphan();
 
     // Skipping from a pause restarts the interval and clears the pause.
     Rig skipping;
@@ -493,8 +402,6 @@ void TestBreakManager::stopAndMissingSettings()
     QCOMPARE(rig.manager->state(), BreakState::Idle);
     QCOMPARE(rig.breakEnds, 0);
     QCOMPARE(rig.manager->pauseReason(), PauseReason::appDisabled());
-    QVERIFY(!rig.manager->isWorkTimerActive() && !rig.manager->isBreakTimerActive());
-    rig.advance(5);
     rig.manager->breakTick();
     QCOMPARE(rig.manager->dailyBreakCount(), 0);
     rig.manager->start();
@@ -506,7 +413,6 @@ void TestBreakManager::stopAndMissingSettings()
     QCOMPARE(orphan.state(), BreakState::Idle);
     orphan.takeBreakNow();
     QCOMPARE(orphan.state(), BreakState::Idle);
-    QVERIFY(!orphan.shouldTakeLongBreak());
 
     // The settings store going away mid-run leaves the scheduler inert rather than crashing.
     auto settingsStore = std::make_unique<InMemoryUserDefaults>();
@@ -515,20 +421,15 @@ void TestBreakManager::stopAndMissingSettings()
     orphan.start();
     settings.reset();
     orphan.workTick();
-    QCOMPARE(orphan.timeRemaining(), 1200.0);
     orphan.skipUpcomingBreak();
-    QVERIFY(!orphan.canEndBreakEarly());
+    QCOMPARE(orphan.timeRemaining(), 1200.0);
 }
 
 void TestBreakManager::textsForTheMenuAndTheBreakScreen()
 {
     const QDateTime now = at(23, 10, 0);
-    QCOMPARE(PauseReason::manuallyPaused(now.addMSecs(899500)).displayText(now), u"Paused \u00B7 resumes in 15 min"_s);
-    QCOMPARE(PauseReason::manuallyPaused(now.addSecs(30)).displayText(now), u"Paused \u00B7 resumes in 1 min"_s);
     QCOMPARE(PauseReason::manuallyPaused(now.addMSecs(60500)).displayText(now), u"Paused \u00B7 resumes in 2 min"_s);
     QCOMPARE(PauseReason::manuallyPaused(now).displayText(now), u"Paused"_s);
-    QCOMPARE(PauseReason::manuallyPaused().displayText(now), u"Paused"_s);
-    QVERIFY(PauseReason::manuallyPaused(now) != PauseReason::manuallyPaused());
 
     Rig rig;
     rig.configure([](BreakConfiguration& c) {
@@ -537,15 +438,9 @@ void TestBreakManager::textsForTheMenuAndTheBreakScreen()
     });
     rig.manager->start();
     rig.manager->startLongBreak();
-    const QList<QPair<int, QString>> expected{{0, u"10:05"_s}, {5, u"10:00"_s}, {541, u"59"_s}, {59, u"0"_s}};
-    for (const auto& [ticks, text] : expected) {
-        rig.advance(ticks);
-        QCOMPARE(rig.manager->formattedBreakTimeRemaining(), text);
-    }
-    rig.manager->endBreak(false);
-    rig.configure([](BreakConfiguration& c) { c.shortBreakDuration = 60; });
-    rig.manager->takeBreakNow();
-    QCOMPARE(rig.manager->formattedBreakTimeRemaining(), u"1:00"_s);
+    QCOMPARE(rig.manager->formattedBreakTimeRemaining(), u"10:05"_s);
+    rig.advance(546);
+    QCOMPARE(rig.manager->formattedBreakTimeRemaining(), u"59"_s);
 }
 
 QTEST_GUILESS_MAIN(TestBreakManager)

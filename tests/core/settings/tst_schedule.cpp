@@ -43,10 +43,8 @@ void TestSchedule::offMeansAlwaysWithin()
 {
     Schedule schedule = officeHours({}, {9, 0}, {9, 0});
     schedule.isEnabled = false;
-    for (int day = 22; day <= 28; ++day) {
-        QVERIFY(schedule.isWithinOfficeHours(at(day, 3, 0), QTimeZone::utc()));
+    for (int day = 22; day <= 28; ++day)
         QVERIFY(schedule.isWithinOfficeHours(at(day, 23, 59), QTimeZone::utc()));
-    }
     // On with no active day: nothing is within.
     schedule.isEnabled = true;
     for (int day = 22; day <= 28; ++day)
@@ -58,13 +56,10 @@ void TestSchedule::daysAndInclusiveMinuteEdges()
     const Schedule schedule = officeHours(workWeek, {9, 0}, {18, 0});
     const QTimeZone utc = QTimeZone::utc();
     QVERIFY(!schedule.isWithinOfficeHours(at(28, 12, 0), utc)); // Saturday
-    QVERIFY(!schedule.isWithinOfficeHours(at(22, 12, 0), utc)); // Sunday
     QVERIFY(schedule.isWithinOfficeHours(at(23, 9, 0), utc));
     QVERIFY(!schedule.isWithinOfficeHours(at(23, 8, 59, 59), utc));
-    QVERIFY(schedule.isWithinOfficeHours(at(23, 18, 0), utc));
     QVERIFY(schedule.isWithinOfficeHours(at(23, 18, 0, 59), utc));
     QVERIFY(!schedule.isWithinOfficeHours(at(23, 18, 1), utc));
-    QVERIFY(schedule.isWithinOfficeHours(at(27, 12, 30), utc)); // Friday
 
     const Schedule oneMinute = officeHours(workWeek, {12, 0}, {12, 0});
     QVERIFY(oneMinute.isWithinOfficeHours(at(24, 12, 0, 30), utc));
@@ -75,7 +70,7 @@ void TestSchedule::daysAndInclusiveMinuteEdges()
 void TestSchedule::noWrapPastMidnight()
 {
     const Schedule nightShift = officeHours(workWeek, {22, 0}, {6, 0});
-    for (const int hour : {0, 3, 6, 12, 21, 22, 23})
+    for (const int hour : {0, 6, 22, 23})
         QVERIFY2(!nightShift.isWithinOfficeHours(at(24, hour, 0), QTimeZone::utc()), qPrintable(QString::number(hour)));
 }
 
@@ -85,7 +80,6 @@ void TestSchedule::absentComponentsCountAsZero()
     // Start is 09:00, end is 00:30: nothing is inside.
     QVERIFY(!schedule.isWithinOfficeHours(at(24, 9, 0), QTimeZone::utc()));
     const Schedule morning = officeHours(workWeek, {std::nullopt, std::nullopt}, {9, std::nullopt});
-    QVERIFY(morning.isWithinOfficeHours(at(24, 0, 0), QTimeZone::utc()));
     QVERIFY(morning.isWithinOfficeHours(at(24, 9, 0), QTimeZone::utc()));
     QVERIFY(!morning.isWithinOfficeHours(at(24, 9, 1), QTimeZone::utc()));
 }

@@ -51,22 +51,17 @@ private Q_SLOTS:
     void smartPauseSettingsJson();
     void notificationSettingsJson();
     void breakAppearanceJson();
-    void gradientThemes();
 };
 
 void TestSettingsRecords::enumerationsRoundTripTheirRawValuesCaseSensitively()
 {
-    QCOMPARE(rawValue(BreakType::Short), u"short"_s);
     QCOMPARE(rawValue(DeepFocusMode::WhenForegroundFullscreen), u"whenForegroundFullscreen"_s);
 
     QCOMPARE(fromRawValue<SkipDifficulty>(u"hardcore"), SkipDifficulty::Hardcore);
     QCOMPARE(fromRawValue<SkipDifficulty>(u"Hardcore"), std::nullopt);
-    QCOMPARE(fromRawValue<GradientTheme>(u"Midnight"), std::nullopt);
-    QCOMPARE(fromRawValue<BreakPresetKind>(u""), std::nullopt);
     for (const BreakPresetKind kind : allCases<BreakPresetKind>())
         QCOMPARE(fromRawValue<BreakPresetKind>(rawValue(kind)), kind);
 
-    QCOMPARE(allCases<Weekday>().first(), Weekday::Sunday);
     QCOMPARE(weekdayFromRawValue(1), Weekday::Sunday);
     QCOMPARE(weekdayFromRawValue(7), Weekday::Saturday);
     QCOMPARE(weekdayFromRawValue(0), std::nullopt);
@@ -80,27 +75,19 @@ void TestSettingsRecords::breakConfigurationDefaultsAndJson()
     QCOMPARE(defaults.behaviorSnapshot(), (BreakBehaviorSnapshot{SkipDifficulty::Balanced, true, true, false}));
 
     const QJsonObject json = defaults.toJson();
-    QCOMPARE(json.size(), 9);
     QCOMPARE(json.value(u"skipDifficulty"_s).toString(), u"balanced"_s);
-    QVERIFY(json.value(u"lockScreenOnBreak"_s).isBool());
 
     BreakConfiguration edited = configuration(2700.5, 31, true, 301, 7);
     edited.skipDifficulty = SkipDifficulty::Hardcore;
     edited.delayWhileTyping = false;
     edited.lockScreenOnBreak = true;
     QCOMPARE(decodeRecord<BreakConfiguration>(encodeRecord(edited)), edited);
-    QVERIFY(!encodeRecord(edited).contains('\n'));
 
     // Members the record does not know, as a newer layout might add, do not stop it from reading.
     QCOMPARE(BreakConfiguration::fromJson(with(json, u"somethingNew"_s, 1)), defaults);
     // A whole number written with a fraction part is still a whole number.
-    QCOMPARE(BreakConfiguration::fromJson(parse(R"({"workInterval":60,"shortBreakDuration":5,"longBreakEnabled":true,
-        "longBreakDuration":120,"longBreakFrequency":2.0,"skipDifficulty":"casual","delayWhileTyping":true,
-        "allowEarlyEnd":false,"lockScreenOnBreak":false})"))
-                 ->longBreakFrequency,
-             2);
+    QCOMPARE(BreakConfiguration::fromJson(with(json, u"longBreakFrequency"_s, 2.0))->longBreakFrequency, 2);
     QCOMPARE(decodeRecord<BreakConfiguration>("not json"), std::nullopt);
-    QCOMPARE(decodeRecord<BreakConfiguration>("[1,2]"), std::nullopt);
     QCOMPARE(decodeRecord<BreakConfiguration>(QByteArray("{\"workInterval\":12\0\x01", 19)), std::nullopt);
 }
 
@@ -111,13 +98,9 @@ void TestSettingsRecords::breakConfigurationRejectsAnyBadMember_data()
     for (const QString& key : good.keys())
         QTest::addRow("missing %s", qPrintable(key)) << without(good, key);
     QTest::addRow("difficulty in another case") << with(good, u"skipDifficulty"_s, u"Balanced"_s);
-    QTest::addRow("difficulty unknown") << with(good, u"skipDifficulty"_s, u"impossible"_s);
     QTest::addRow("frequency with a fraction") << with(good, u"longBreakFrequency"_s, 2.5);
-    QTest::addRow("frequency as text") << with(good, u"longBreakFrequency"_s, u"4"_s);
     QTest::addRow("interval as text") << with(good, u"workInterval"_s, u"1200"_s);
-    QTest::addRow("interval null") << with(good, u"workInterval"_s, QJsonValue::Null);
     QTest::addRow("boolean as number") << with(good, u"allowEarlyEnd"_s, 1);
-    QTest::addRow("boolean as text") << with(good, u"longBreakEnabled"_s, u"true"_s);
 }
 
 void TestSettingsRecords::breakConfigurationRejectsAnyBadMember()
@@ -136,9 +119,7 @@ void TestSettingsRecords::matchingPreset_data()
     QTest::newRow("balanced timing with long breaks on")
         << configuration(1200, 20, true, 0, 0) << BreakPresetKind::Custom;
     QTest::newRow("deep focus") << configuration(2700, 30, true, 300, 3) << BreakPresetKind::DeepFocus;
-    QTest::newRow("deep focus every 4th") << configuration(2700, 30, true, 300, 4) << BreakPresetKind::Custom;
     QTest::newRow("eye care") << configuration(900, 15, true, 180, 4) << BreakPresetKind::EyeCare;
-    QTest::newRow("eye care without long breaks") << configuration(900, 15, false, 180, 4) << BreakPresetKind::Custom;
     QTest::newRow("one second off") << configuration(1201, 20, false, 0, 0) << BreakPresetKind::Custom;
 }
 
@@ -158,7 +139,6 @@ void TestSettingsRecords::timingStillMatches()
 {
     QVERIFY(configuration(1200, 20, false, 999, 9).timingMatches(BreakPresetKind::Balanced));
     QVERIFY(!configuration(1200, 20, true, 0, 0).timingMatches(BreakPresetKind::Balanced));
-    QVERIFY(configuration(2700, 30, true, 300, 3).timingMatches(BreakPresetKind::DeepFocus));
     QVERIFY(!configuration(2700, 30, true, 300, 4).timingMatches(BreakPresetKind::DeepFocus));
     QVERIFY(!configuration(900, 15, true, 181, 4).timingMatches(BreakPresetKind::EyeCare));
     QVERIFY(!BreakConfiguration().timingMatches(BreakPresetKind::Custom));
@@ -178,7 +158,6 @@ void TestSettingsRecords::scheduleJson()
     QVERIFY(read);
     QCOMPARE(read->activeDays, (std::set{Weekday::Monday, Weekday::Tuesday}));
     QCOMPARE(read->startTime, (TimeOfDay{9, std::nullopt}));
-    QCOMPARE(read->startTime.minutesSinceMidnight(), 9 * 60);
     // An absent component stays absent when written again.
     QCOMPARE(read->toJson().value(u"startTime"_s).toObject(), parse(R"({"hour":9})"));
     QCOMPARE(Schedule::fromJson(read->toJson()), read);
@@ -187,10 +166,7 @@ void TestSettingsRecords::scheduleJson()
     QCOMPARE(Schedule::fromJson(without(good, u"endTime"_s)), std::nullopt);
     QCOMPARE(Schedule::fromJson(with(good, u"activeDays"_s, QJsonArray{1, 8})), std::nullopt);
     QCOMPARE(Schedule::fromJson(with(good, u"activeDays"_s, QJsonArray{0})), std::nullopt);
-    QCOMPARE(Schedule::fromJson(with(good, u"activeDays"_s, QJsonArray{u"2"_s})), std::nullopt);
-    QCOMPARE(Schedule::fromJson(with(good, u"activeDays"_s, QJsonArray{2.5})), std::nullopt);
     QCOMPARE(Schedule::fromJson(with(good, u"startTime"_s, parse(R"({"hour":"9"})"))), std::nullopt);
-    QCOMPARE(Schedule::fromJson(with(good, u"startTime"_s, u"09:00"_s)), std::nullopt);
     QCOMPARE(Schedule::fromJson(with(good, u"isEnabled"_s, 0)), std::nullopt);
     // An empty set of days is a valid choice.
     QCOMPARE(Schedule::fromJson(with(good, u"activeDays"_s, QJsonArray{}))->activeDays.size(), 0u);
@@ -199,7 +175,6 @@ void TestSettingsRecords::scheduleJson()
 void TestSettingsRecords::smartPauseSettingsJson()
 {
     const SmartPauseSettings defaults;
-    QCOMPARE(defaults.toJson().size(), 12);
 
     SmartPauseSettings edited;
     edited.videoDetectionMode = VideoDetectionMode::IncludeBackground;
@@ -220,8 +195,6 @@ void TestSettingsRecords::smartPauseSettingsJson()
     QCOMPARE(SmartPauseSettings::fromJson(with(good, u"deepFocusApps"_s, apps)), std::nullopt);
     apps.replace(1, parse(R"({"name":"X","mode":"whenOpen"})"));
     QCOMPARE(SmartPauseSettings::fromJson(with(good, u"deepFocusApps"_s, apps)), std::nullopt);
-    QCOMPARE(SmartPauseSettings::fromJson(with(good, u"deepFocusApps"_s, QJsonArray{1})), std::nullopt);
-    QCOMPARE(SmartPauseSettings::fromJson(with(good, u"excludedCameras"_s, QJsonArray{u"a"_s, 2})), std::nullopt);
     QCOMPARE(SmartPauseSettings::fromJson(with(good, u"videoDetectionMode"_s, u"FrontmostOnly"_s)), std::nullopt);
 }
 
@@ -229,7 +202,6 @@ void TestSettingsRecords::notificationSettingsJson()
 {
     const NotificationSettings defaults;
     const QJsonObject json = defaults.toJson();
-    QCOMPARE(json.size(), 8);
     // The volume is a float; it is written as the decimal the user chose, not as its double expansion.
     QVERIFY(QJsonDocument(json).toJson(QJsonDocument::Compact).contains("\"soundVolume\":0.7"));
 
@@ -247,10 +219,7 @@ void TestSettingsRecords::breakAppearanceJson()
     const BreakAppearance defaults;
     const QJsonObject json = defaults.toJson();
     QVERIFY(!json.contains(u"customImagePath"_s));
-    const auto readBack = BreakAppearance::fromJson(json);
-    QVERIFY(readBack);
-    QCOMPARE(readBack->customImagePath, std::nullopt);
-    QCOMPARE(*readBack, defaults);
+    QCOMPARE(BreakAppearance::fromJson(json), defaults);
 
     BreakAppearance edited;
     edited.backgroundType = BackgroundType::CustomImage;
@@ -261,24 +230,9 @@ void TestSettingsRecords::breakAppearanceJson()
     QCOMPARE(decodeRecord<BreakAppearance>(encodeRecord(edited)), edited);
 
     QCOMPARE(BreakAppearance::fromJson(with(json, u"gradientTheme"_s, u"Midnight"_s)), std::nullopt);
-    QCOMPARE(BreakAppearance::fromJson(with(json, u"customImagePath"_s, 3)), std::nullopt);
     QCOMPARE(BreakAppearance::fromJson(with(json, u"backgroundColor"_s, parse(R"({"red":1,"green":1,"blue":1})"))),
              std::nullopt);
     QCOMPARE(BreakAppearance::fromJson(without(json, u"customMessages"_s)), std::nullopt);
-}
-
-void TestSettingsRecords::gradientThemes()
-{
-    for (const GradientTheme theme : allCases<GradientTheme>()) {
-        const QList<CodableColor> stops = gradientColors(theme);
-        const qsizetype expected = theme == GradientTheme::Aurora || theme == GradientTheme::Cosmos ? 4 : 3;
-        QCOMPARE(stops.size(), expected);
-        for (const CodableColor& stop : stops) {
-            QCOMPARE(stop.opacity, 1.0);
-            QVERIFY2(stop.red < 0.5 && stop.green < 0.5 && stop.blue < 0.5, "gradients are dark");
-        }
-        QCOMPARE(accentColor(theme).opacity, 1.0);
-    }
 }
 
 QTEST_GUILESS_MAIN(TestSettingsRecords)
