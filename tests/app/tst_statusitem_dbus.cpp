@@ -6,17 +6,11 @@
 #include "FakeLaunchAtLogin.h"
 #include "FakeSoundPlayer.h"
 #include "InMemoryUserDefaults.h"
-#include "SystemSleepSignals.h"
 #include "scheduling/BreakManager.h"
-#include "settings/SettingsManager.h"
-#include "tray/StatusItem.h"
 
-#include <QApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
@@ -192,26 +186,6 @@ private Q_SLOTS:
         QVERIFY(!labels(entries).contains(u"Pause for 15 Minutes"_s));
         QVERIFY(click(entries, u"Resume"_s));
         QTRY_COMPARE(breaks.state(), BreakState::Working);
-
-        // The host sees the tooltip with the name and the countdown.
-        const QDBusArgument toolTip = qvariant_cast<QDBusArgument>(property(u"ToolTip"_s));
-        QString iconName, title, text;
-        toolTip.beginStructure();
-        toolTip >> iconName;
-        toolTip.beginArray();
-        while (!toolTip.atEnd()) {
-            int width = 0, height = 0;
-            QByteArray pixels;
-            toolTip.beginStructure();
-            toolTip >> width >> height >> pixels;
-            toolTip.endStructure();
-        }
-        toolTip.endArray();
-        toolTip >> title >> text;
-        toolTip.endStructure();
-        QVERIFY2(QRegularExpression(u"^Velto \u00B7 20 min left"_s).match(title + text).hasMatch(),
-                 qPrintable(title + u" | "_s + text));
-        QVERIFY(QString(title + text).contains(u"Until next break"_s));
     }
 
     void cleanupTestCase()
