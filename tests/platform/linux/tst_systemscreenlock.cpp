@@ -53,7 +53,6 @@ private:
     std::unique_ptr<FakeScreenSaver> m_screenSaver;
     std::unique_ptr<FakeLogindManager> m_logind;
     std::unique_ptr<FakeLogindSession> m_logindSession;
-    QByteArray m_savedSessionId;
 };
 
 void TestSystemScreenLock::initTestCase()
@@ -77,7 +76,6 @@ void TestSystemScreenLock::initTestCase()
     m_sessionSide = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"fake-session-lockers"_s);
     m_systemSide = QDBusConnection::connectToBus(QString::fromUtf8(address), u"fake-logind"_s);
     QVERIFY(m_sessionSide->isConnected() && m_systemSide->isConnected());
-    m_savedSessionId = qgetenv("XDG_SESSION_ID");
 }
 
 void TestSystemScreenLock::init()
@@ -102,10 +100,6 @@ void TestSystemScreenLock::cleanup()
 
 void TestSystemScreenLock::cleanupTestCase()
 {
-    if (m_savedSessionId.isNull())
-        qunsetenv("XDG_SESSION_ID");
-    else
-        qputenv("XDG_SESSION_ID", m_savedSessionId);
     m_systemBusDaemon.terminate();
     m_systemBusDaemon.waitForFinished();
 }
@@ -184,19 +178,15 @@ void TestSystemScreenLock::theScreenSaverLocksFirst()
 
 void TestSystemScreenLock::logindLocksWhenTheScreenSaverCannot_data()
 {
-    QTest::addColumn<bool>("screenSaverPresent");
     QTest::addColumn<FakeScreenSaver::Answer>("answer");
-    QTest::newRow("no screen saver") << false << FakeScreenSaver::Answer::Lock;
-    QTest::newRow("screen saver refuses") << true << FakeScreenSaver::Answer::Refuse;
-    QTest::newRow("screen saver never answers") << true << FakeScreenSaver::Answer::Ignore;
+    QTest::newRow("screen saver refuses") << FakeScreenSaver::Answer::Refuse;
+    QTest::newRow("screen saver never answers") << FakeScreenSaver::Answer::Ignore;
 }
 
 void TestSystemScreenLock::logindLocksWhenTheScreenSaverCannot()
 {
-    QFETCH(bool, screenSaverPresent);
     QFETCH(FakeScreenSaver::Answer, answer);
-    if (screenSaverPresent)
-        offerScreenSaver(u"/org/freedesktop/ScreenSaver"_s, answer);
+    offerScreenSaver(u"/org/freedesktop/ScreenSaver"_s, answer);
     offerLogind();
 
     SystemScreenLock lock;
@@ -207,7 +197,7 @@ void TestSystemScreenLock::logindLocksWhenTheScreenSaverCannot()
     QVERIFY(finished.wait());
     QCOMPARE(finished.takeFirst(), QVariantList{true});
     QCOMPARE(m_logind->lockedSessions, QStringList{u"c7"_s});
-    QCOMPARE(m_screenSaver->lockCalls, screenSaverPresent ? 1 : 0);
+    QCOMPARE(m_screenSaver->lockCalls, 1);
     // A silent screen saver costs each of its two paths one call timeout, no more.
     QVERIFY2(clock.elapsed() < 4 * SystemScreenLock::callTimeout,
              qPrintable(u"locking took %1 ms"_s.arg(clock.elapsed())));
@@ -266,10 +256,6 @@ void TestSystemScreenLock::withoutAnyBusNothingIsAvailableAndNothingWaits()
     QSignalSpy finished(&lock, &SystemScreenLock::lockAttemptFinished);
     lock.lockScreen();
     QVERIFY(clock.elapsed() < SystemScreenLock::callTimeout);
-    QVERIFY(finished.wait(1000));
-    QCOMPARE(finished.takeFirst(), QVariantList{false});
-    qunsetenv("XDG_SESSION_ID"); // the other logind route fails the same way
-    lock.lockScreen();
     QVERIFY(finished.wait(1000));
     QCOMPARE(finished.takeFirst(), QVariantList{false});
 
