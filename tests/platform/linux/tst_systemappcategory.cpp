@@ -8,24 +8,13 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestSystemAppCategory : public QObject, protected X11ProviderFixture {
+class TestSystemAppCategory : public X11ProviderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { m_desktop.stop(); }
-    void cleanup() { closeWindows(); }
-
     void fullscreenGameWindowsCoverTheScreenAtTheNormalLayer();
     void steamGamesAreGamesWhateverTheirDesktopFile();
 };
-
-void TestSystemAppCategory::initTestCase()
-{
-    if (!isAvailable())
-        QSKIP("Xvfb, openbox or xdotool is not installed");
-    QVERIFY(startDesktop());
-}
 
 void TestSystemAppCategory::fullscreenGameWindowsCoverTheScreenAtTheNormalLayer()
 {

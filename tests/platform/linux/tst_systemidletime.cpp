@@ -8,26 +8,15 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestSystemIdleTime : public QObject, protected X11ProviderFixture {
+class TestSystemIdleTime : public X11ProviderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { m_desktop.stop(); }
-    void cleanup() { closeWindows(); }
-
     void idleTimeIsResetByInput();
     void idleTimeComesFromMutterFirstThenTheScreenSaver();
     void idleTimeIsZeroWhenNoMonitorAnswers();
     void withoutAServerOrABusIdleTimeIsZeroAndSaidOnce();
 };
-
-void TestSystemIdleTime::initTestCase()
-{
-    if (!isAvailable())
-        QSKIP("Xvfb, openbox or xdotool is not installed");
-    QVERIFY(startDesktop());
-}
 
 void TestSystemIdleTime::idleTimeIsResetByInput()
 {

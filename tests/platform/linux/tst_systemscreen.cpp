@@ -6,25 +6,14 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestSystemScreen : public QObject, protected X11ProviderFixture {
+class TestSystemScreen : public X11ProviderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { m_desktop.stop(); }
-    void cleanup() { closeWindows(); }
-
     void theWholeScreenWithoutMonitorsAndNothingWithoutAServer();
     void theMainScreenIsThePrimaryMonitor();
     void aServerThatGoesAwayLeavesTheZeroRectangle();
 };
-
-void TestSystemScreen::initTestCase()
-{
-    if (!isAvailable())
-        QSKIP("Xvfb, openbox or xdotool is not installed");
-    QVERIFY(startDesktop());
-}
 
 void TestSystemScreen::theWholeScreenWithoutMonitorsAndNothingWithoutAServer()
 {

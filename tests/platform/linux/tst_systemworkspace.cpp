@@ -8,26 +8,15 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestSystemWorkspace : public QObject, protected X11ProviderFixture {
+class TestSystemWorkspace : public X11ProviderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { m_desktop.stop(); }
-    void cleanup() { closeWindows(); }
-
     void workspaceGroupsWindowsByProcessAndFollowsTheActiveWindow();
     void identitiesComeFromDesktopFilesElseTheWindowClass();
     void withoutWindowsApplicationsComeFromTheProcessTable();
     void withoutAServerTheListIsEmptyAndSaidOnce();
 };
-
-void TestSystemWorkspace::initTestCase()
-{
-    if (!isAvailable())
-        QSKIP("Xvfb, openbox or xdotool is not installed");
-    QVERIFY(startDesktop());
-}
 
 void TestSystemWorkspace::workspaceGroupsWindowsByProcessAndFollowsTheActiveWindow()
 {
