@@ -1,11 +1,11 @@
 #include "FakeLockServices.h"
 #include "MessageCapture.h"
+#include "PrivateSystemBus.h"
 #include "SystemScreenLock.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -29,7 +29,6 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
-    void cleanupTestCase();
 
     void availabilityFollowsTheLockersOnTheBuses();
     void theScreenSaverLocksFirst_data();
@@ -47,7 +46,7 @@ private:
     // Starts a lock attempt and checks it returned before any locker could have been reached.
     void lockWithoutWaiting(SystemScreenLock& lock);
 
-    QProcess m_systemBusDaemon;
+    PrivateSystemBus m_systemBus;
     std::optional<QDBusConnection> m_sessionSide;
     std::optional<QDBusConnection> m_systemSide;
     std::unique_ptr<FakeScreenSaver> m_screenSaver;
@@ -57,15 +56,7 @@ private:
 
 void TestSystemScreenLock::initTestCase()
 {
-    m_systemBusDaemon.start(QStringLiteral(VELTO_DBUS_DAEMON),
-                            {u"--config-file=" VELTO_TEST_BUS_CONFIG ""_s, u"--print-address"_s, u"--nofork"_s});
-    QVERIFY(m_systemBusDaemon.waitForStarted());
-    QTRY_VERIFY(m_systemBusDaemon.canReadLine());
-    const QByteArray address = m_systemBusDaemon.readLine().trimmed();
-    QVERIFY(!address.isEmpty());
-    // libdbus reads every bus address on its first connection, so this comes before any other D-Bus use.
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
-    QVERIFY(QDBusConnection::systemBus().isConnected());
+    QVERIFY(m_systemBus.start());
 
     QDBusConnection sessionBus = QDBusConnection::sessionBus();
     QVERIFY2(sessionBus.isConnected(), "Run this test under dbus-run-session, as ctest does");
@@ -74,7 +65,7 @@ void TestSystemScreenLock::initTestCase()
              "This session bus is not private; run the test under dbus-run-session");
 
     m_sessionSide = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"fake-session-lockers"_s);
-    m_systemSide = QDBusConnection::connectToBus(QString::fromUtf8(address), u"fake-logind"_s);
+    m_systemSide = QDBusConnection::connectToBus(m_systemBus.address(), u"fake-logind"_s);
     QVERIFY(m_sessionSide->isConnected() && m_systemSide->isConnected());
 }
 
@@ -96,12 +87,6 @@ void TestSystemScreenLock::cleanup()
     m_screenSaver.reset();
     m_logind.reset();
     m_logindSession.reset();
-}
-
-void TestSystemScreenLock::cleanupTestCase()
-{
-    m_systemBusDaemon.terminate();
-    m_systemBusDaemon.waitForFinished();
 }
 
 void TestSystemScreenLock::offerScreenSaver(const QString& path, FakeScreenSaver::Answer answer)
