@@ -98,16 +98,13 @@ public:
     }
 
     // Runs an X client (xdotool, …) to its end; returns whether it succeeded.
-    bool run(const QString& program, const QStringList& arguments, QByteArray* output = nullptr) const
+    bool run(const QString& program, const QStringList& arguments) const
     {
         QProcess process;
         process.setProcessEnvironment(environment());
         process.start(QStandardPaths::findExecutable(program), arguments);
-        if (!process.waitForFinished(10000))
-            return false;
-        if (output)
-            *output = process.readAllStandardOutput();
-        return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+        return process.waitForFinished(10000) && process.exitStatus() == QProcess::NormalExit &&
+               process.exitCode() == 0;
     }
 
     // Starts a test window program and waits until it reports its window ID; the process stays ours.
