@@ -13,7 +13,6 @@ class TestSystemWorkspace : public X11ProviderFixture {
 
 private Q_SLOTS:
     void workspaceGroupsWindowsByProcessAndFollowsTheActiveWindow();
-    void identitiesComeFromDesktopFilesElseTheWindowClass();
     void withoutWindowsApplicationsComeFromTheProcessTable();
     void withoutAServerTheListIsEmptyAndSaidOnce();
 };
@@ -24,7 +23,7 @@ void TestSystemWorkspace::workspaceGroupsWindowsByProcessAndFollowsTheActiveWind
     quint32 firstWindow = 0;
     quint32 secondWindow = 0;
     QProcess* first = open({u"--class"_s, u"first.First"_s}, &firstWindow);
-    QProcess* second = open({u"--class"_s, u"second.Second"_s}, &secondWindow);
+    QProcess* second = open({u"--class"_s, u"secondTool.SecondTool"_s}, &secondWindow);
     QVERIFY(open({u"--class"_s, u"anonymous.Anonymous"_s, u"--no-pid"_s}));
     QVERIFY(first && second);
 
@@ -33,6 +32,8 @@ void TestSystemWorkspace::workspaceGroupsWindowsByProcessAndFollowsTheActiveWind
     QTRY_VERIFY(appWithPid(workspace.runningApplications(), first->processId())->isActive);
     QList<AppSnapshot> apps = workspace.runningApplications();
     QVERIFY(!appWithPid(apps, second->processId())->isActive);
+    // No desktop file claims this class: the identity is the class itself, lower-cased.
+    QCOMPARE(appWithPid(apps, second->processId())->bundleIdentifier, u"secondtool"_s);
     // In the window manager's order, oldest first: the first window's process leads.
     QCOMPARE(apps.first().processIdentifier, first->processId());
 
@@ -45,18 +46,6 @@ void TestSystemWorkspace::workspaceGroupsWindowsByProcessAndFollowsTheActiveWind
     m_desktop.closeWindow(first);
     m_opened.removeOne(first);
     QTRY_COMPARE(workspace.runningApplications().size(), 1);
-}
-
-void TestSystemWorkspace::identitiesComeFromDesktopFilesElseTheWindowClass()
-{
-    SystemWorkspace workspace(m_link, m_identities, m_memo);
-    QProcess* editor = open({u"--class"_s, u"example-editor.ExampleEditor"_s});
-    QProcess* unknown = open({u"--class"_s, u"someTool.SomeTool"_s});
-    QVERIFY(editor && unknown);
-    QTRY_COMPARE(workspace.runningApplications().size(), 2);
-    const QList<AppSnapshot> apps = workspace.runningApplications();
-    QCOMPARE(appWithPid(apps, editor->processId())->bundleIdentifier, u"org.example.Editor"_s);
-    QCOMPARE(appWithPid(apps, unknown->processId())->bundleIdentifier, u"sometool"_s);
 }
 
 void TestSystemWorkspace::withoutWindowsApplicationsComeFromTheProcessTable()
