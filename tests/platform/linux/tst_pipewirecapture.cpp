@@ -1,6 +1,7 @@
 // Screen capture as a real PipeWire server shows it: the test starts a private server and publishes nodes
 // with pw-cli, as a desktop's screencast service, a camera, a microphone or a recorder would.
 #include "MessageCapture.h"
+#include "QuietProcess.h"
 #include "detection/PipeWireCapture.h"
 
 #include <QDeadlineTimer>
@@ -76,16 +77,9 @@ void TestPipeWireCapture::initTestCase()
     QVERIFY(config.open(QIODevice::WriteOnly));
     config.write(serverConfig);
     config.close();
-    m_server = std::make_unique<QProcess>();
-    m_server->setProcessEnvironment(environment());
-    m_server->setStandardOutputFile(QProcess::nullDevice());
-    m_server->setStandardErrorFile(QProcess::nullDevice());
-    m_server->start(pipewire, {u"-c"_s, config.fileName()});
-    QVERIFY(m_server->waitForStarted(3000));
-    const QDeadlineTimer deadline(10000);
-    while (!QFile::exists(m_runtime.filePath(u"pipewire-0"_s)) && !deadline.hasExpired())
-        QTest::qWait(20);
-    QVERIFY(QFile::exists(m_runtime.filePath(u"pipewire-0"_s)));
+    m_server = startQuietly(pipewire, {u"-c"_s, config.fileName()}, environment());
+    QVERIFY(m_server);
+    QVERIFY(waitForSocket(m_runtime.filePath(u"pipewire-0"_s), *m_server));
 }
 
 void TestPipeWireCapture::cleanup()
@@ -97,21 +91,14 @@ void TestPipeWireCapture::cleanup()
 void TestPipeWireCapture::cleanupTestCase()
 {
     cleanup();
-    if (m_server) {
-        m_server->terminate();
-        if (!m_server->waitForFinished(3000))
-            m_server->kill();
-    }
+    if (m_server)
+        stopProcess(*m_server);
 }
 
 QProcess* TestPipeWireCapture::publish(const QString& properties)
 {
-    auto cli = std::make_unique<QProcess>();
-    cli->setProcessEnvironment(environment());
-    cli->setStandardOutputFile(QProcess::nullDevice());
-    cli->setStandardErrorFile(QProcess::nullDevice());
-    cli->start(QStandardPaths::findExecutable(u"pw-cli"_s), {});
-    if (!cli->waitForStarted(3000))
+    auto cli = startQuietly(QStandardPaths::findExecutable(u"pw-cli"_s), {}, environment());
+    if (!cli)
         return nullptr;
     cli->write("create-node adapter { factory.name=support.null-audio-sink " + properties.toUtf8() + " }\n");
     m_clients.push_back(std::move(cli));
@@ -122,10 +109,8 @@ void TestPipeWireCapture::unpublish(QProcess* cli)
 {
     cli->write("quit\n");
     cli->closeWriteChannel();
-    if (!cli->waitForFinished(3000)) {
+    if (!cli->waitForFinished(3000))
         cli->kill();
-        cli->waitForFinished();
-    }
     std::erase_if(m_clients, [cli](const auto& owned) { return owned.get() == cli; });
 }
 

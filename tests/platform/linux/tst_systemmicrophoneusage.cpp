@@ -2,6 +2,7 @@
 // client, parecord), through a silent server, and through fixture ALSA status files.
 #include "FixtureTree.h"
 #include "MessageCapture.h"
+#include "QuietProcess.h"
 #include "detection/SystemDeviceUsage.h"
 
 #include <QDeadlineTimer>
@@ -41,15 +42,9 @@ private:
 
 void TestSystemMicrophoneUsage::cleanupTestCase()
 {
-    for (auto& recorder : m_recorders) {
-        recorder->kill();
-        recorder->waitForFinished();
-    }
-    if (m_pulse) {
-        m_pulse->terminate();
-        if (!m_pulse->waitForFinished(3000))
-            m_pulse->kill();
-    }
+    m_recorders.clear();
+    if (m_pulse)
+        stopProcess(*m_pulse);
 }
 
 bool TestSystemMicrophoneUsage::startPulse()
@@ -60,27 +55,20 @@ bool TestSystemMicrophoneUsage::startPulse()
     if (pulseaudio.isEmpty() || QStandardPaths::findExecutable(u"parecord"_s).isEmpty())
         return false;
     m_pulseSocket = m_pulseDir.filePath(u"native"_s);
-    m_pulse = std::make_unique<QProcess>();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, m_pulseDir.path());
     environment.insert(u"XDG_RUNTIME_DIR"_s, m_pulseDir.path());
     environment.insert(u"XDG_CONFIG_HOME"_s, m_pulseDir.path());
     environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
     environment.remove(u"DISPLAY"_s);
-    m_pulse->setProcessEnvironment(environment);
-    m_pulse->setStandardOutputFile(QProcess::nullDevice());
-    m_pulse->setStandardErrorFile(QProcess::nullDevice());
-    m_pulse->start(pulseaudio,
-                   {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--disable-shm=yes"_s,
-                    u"--use-pid-file=no"_s, u"--system=no"_s, u"--log-target=stderr"_s, u"-L"_s,
-                    u"module-native-protocol-unix auth-anonymous=1 socket="_s + m_pulseSocket, u"-L"_s,
-                    u"module-null-source source_name=test_mic"_s, u"-L"_s, u"module-null-sink sink_name=test_out"_s});
-    if (!m_pulse->waitForStarted(3000))
-        return false;
-    const QDeadlineTimer deadline(10000);
-    while (!QFile::exists(m_pulseSocket) && !deadline.hasExpired() && m_pulse->state() == QProcess::Running)
-        QTest::qWait(20);
-    return QFile::exists(m_pulseSocket);
+    m_pulse =
+        startQuietly(pulseaudio,
+                     {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--disable-shm=yes"_s,
+                      u"--use-pid-file=no"_s, u"--system=no"_s, u"--log-target=stderr"_s, u"-L"_s,
+                      u"module-native-protocol-unix auth-anonymous=1 socket="_s + m_pulseSocket, u"-L"_s,
+                      u"module-null-source source_name=test_mic"_s, u"-L"_s, u"module-null-sink sink_name=test_out"_s},
+                     environment);
+    return m_pulse && waitForSocket(m_pulseSocket, *m_pulse);
 }
 
 QProcessEnvironment TestSystemMicrophoneUsage::clientEnvironment() const
@@ -93,11 +81,9 @@ QProcessEnvironment TestSystemMicrophoneUsage::clientEnvironment() const
 
 QProcess* TestSystemMicrophoneUsage::record(const QString& source)
 {
-    auto recorder = std::make_unique<QProcess>();
-    recorder->setProcessEnvironment(clientEnvironment());
-    recorder->setStandardOutputFile(QProcess::nullDevice());
-    recorder->start(QStandardPaths::findExecutable(u"parecord"_s), {u"--raw"_s, u"--device="_s + source});
-    if (!recorder->waitForStarted(3000))
+    auto recorder = startQuietly(QStandardPaths::findExecutable(u"parecord"_s), {u"--raw"_s, u"--device="_s + source},
+                                 clientEnvironment());
+    if (!recorder)
         return nullptr;
     m_recorders.push_back(std::move(recorder));
     return m_recorders.back().get();
