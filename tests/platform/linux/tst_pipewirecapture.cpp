@@ -4,7 +4,6 @@
 #include "QuietProcess.h"
 #include "detection/PipeWireCapture.h"
 
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>

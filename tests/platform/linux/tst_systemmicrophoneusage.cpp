@@ -5,7 +5,6 @@
 #include "QuietProcess.h"
 #include "detection/SystemDeviceUsage.h"
 
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QLocalServer>
 #include <QProcess>

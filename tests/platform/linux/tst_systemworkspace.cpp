@@ -3,8 +3,6 @@
 #include "X11ProviderFixture.h"
 #include "detection/SystemX11Providers.h"
 
-#include <QTemporaryDir>
-
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
