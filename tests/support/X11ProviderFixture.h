@@ -44,12 +44,19 @@ inline std::optional<velto::WindowDescriptor> windowOf(const QList<velto::Window
     return std::nullopt;
 }
 
-class X11ProviderFixture {
-public:
-    [[nodiscard]] static bool isAvailable()
+// The base of each X11 provider test: one desktop for the whole test, the test windows closed after each case.
+class X11ProviderFixture : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
     {
-        return XvfbDesktop::isAvailable() && !QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty();
+        if (!XvfbDesktop::isAvailable() || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
+            QSKIP("Xvfb, openbox or xdotool is not installed");
+        QVERIFY(startDesktop());
     }
+    void cleanupTestCase() { m_desktop.stop(); }
+    void cleanup() { closeWindows(); }
 
 protected:
     bool startDesktop()

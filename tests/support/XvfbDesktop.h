@@ -98,16 +98,13 @@ public:
     }
 
     // Runs an X client (xdotool, …) to its end; returns whether it succeeded.
-    bool run(const QString& program, const QStringList& arguments, QByteArray* output = nullptr) const
+    bool run(const QString& program, const QStringList& arguments) const
     {
         QProcess process;
         process.setProcessEnvironment(environment());
         process.start(QStandardPaths::findExecutable(program), arguments);
-        if (!process.waitForFinished(10000))
-            return false;
-        if (output)
-            *output = process.readAllStandardOutput();
-        return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+        return process.waitForFinished(10000) && process.exitStatus() == QProcess::NormalExit &&
+               process.exitCode() == 0;
     }
 
     // Starts a test window program and waits until it reports its window ID; the process stays ours.
@@ -173,23 +170,21 @@ private:
         return result;
     }
 
-    static bool listContains(xcb_connection_t* c, xcb_window_t root, xcb_atom_t property, xcb_window_t window)
+    static std::vector<xcb_window_t> windowList(xcb_connection_t* c, xcb_window_t root, xcb_atom_t property)
     {
         auto* reply =
             xcb_get_property_reply(c, xcb_get_property(c, 0, root, property, XCB_ATOM_WINDOW, 0, 4096), nullptr);
-        bool found = false;
+        std::vector<xcb_window_t> windows;
         if (reply) {
-            const auto* windows = static_cast<const xcb_window_t*>(xcb_get_property_value(reply));
-            const int count = xcb_get_property_value_length(reply) / 4;
-            found = window == XCB_WINDOW_NONE ? count >= 0 && reply->type != XCB_NONE
-                                              : std::find(windows, windows + count, window) != windows + count;
+            const auto* data = static_cast<const xcb_window_t*>(xcb_get_property_value(reply));
+            windows.assign(data, data + xcb_get_property_value_length(reply) / 4);
         }
         std::free(reply);
-        return found;
+        return windows;
     }
 
     // The window manager is ready once it manages a window: announcing itself on the root window comes
-    // earlier in its start-up, and windows mapped in between may be missed.
+    // earlier in its start-up, and windows mapped in between may be missed. So map probes until one is managed.
     bool waitForWindowManager() const
     {
         xcb_connection_t* c = xcb_connect(m_display.toLocal8Bit().constData(), nullptr);
@@ -199,11 +194,8 @@ private:
         }
         xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(c)).data;
         const xcb_atom_t clientList = atom(c, "_NET_CLIENT_LIST");
-        const xcb_atom_t check = atom(c, "_NET_SUPPORTING_WM_CHECK");
         bool ready = false;
         QDeadlineTimer deadline(10000);
-        while (!listContains(c, screen->root, check, XCB_WINDOW_NONE) && !deadline.hasExpired())
-            QThread::msleep(20);
         while (!ready && !deadline.hasExpired()) {
             const xcb_window_t probe = xcb_generate_id(c);
             xcb_create_window(c, XCB_COPY_FROM_PARENT, probe, screen->root, 0, 0, 10, 10, 0,
@@ -212,7 +204,8 @@ private:
             xcb_flush(c);
             const QDeadlineTimer probeDeadline(1000);
             while (!ready && !probeDeadline.hasExpired()) {
-                ready = listContains(c, screen->root, clientList, probe);
+                const std::vector<xcb_window_t> managed = windowList(c, screen->root, clientList);
+                ready = std::find(managed.begin(), managed.end(), probe) != managed.end();
                 if (!ready)
                     QThread::msleep(20);
             }
@@ -220,15 +213,8 @@ private:
             xcb_flush(c);
         }
         // Wait until the probe is gone from the list again, so tests start with an empty desktop.
-        while (ready && !deadline.hasExpired()) {
-            auto* reply = xcb_get_property_reply(
-                c, xcb_get_property(c, 0, screen->root, clientList, XCB_ATOM_WINDOW, 0, 4096), nullptr);
-            const bool empty = !reply || xcb_get_property_value_length(reply) == 0;
-            std::free(reply);
-            if (empty)
-                break;
+        while (ready && !windowList(c, screen->root, clientList).empty() && !deadline.hasExpired())
             QThread::msleep(20);
-        }
         xcb_disconnect(c);
         return ready;
     }

@@ -1,6 +1,6 @@
 // A bare X11 client window for the provider tests and the benchmark: it names its process and class like
 // any application, prints its window ID once the server has it, and stays until stdin closes or it is killed.
-// Usage: x11_test_window [--class instance.Class] [--title text] [--geometry WxH+X+Y] [--type normal|dock|desktop]
+// Usage: x11_test_window [--class instance.Class] [--title text] [--geometry WxH+X+Y] [--type normal|dock]
 //                        [--fullscreen] [--no-pid]
 #include <cstdio>
 #include <cstdlib>
@@ -35,7 +35,7 @@ int main(int argc, char** argv)
     std::string instance = "testwindow";
     std::string windowClass = "TestWindow";
     std::string title = "Test window";
-    std::string type = "normal";
+    bool dock = false;
     int width = 400, height = 300, x = 10, y = 10;
     bool fullscreen = false;
     bool withPid = true;
@@ -55,7 +55,7 @@ int main(int argc, char** argv)
             std::sscanf(next, "%dx%d+%d+%d", &width, &height, &x, &y);
             ++i;
         } else if (argument == "--type") {
-            type = next;
+            dock = std::strcmp(next, "dock") == 0;
             ++i;
         } else if (argument == "--fullscreen") {
             fullscreen = true;
@@ -85,10 +85,7 @@ int main(int argc, char** argv)
         const uint32_t pid = static_cast<uint32_t>(getpid());
         xcb_change_property(c, XCB_PROP_MODE_REPLACE, w, atom(c, "_NET_WM_PID"), XCB_ATOM_CARDINAL, 32, 1, &pid);
     }
-    const std::string typeAtom = type == "dock"      ? "_NET_WM_WINDOW_TYPE_DOCK"
-                                 : type == "desktop" ? "_NET_WM_WINDOW_TYPE_DESKTOP"
-                                                     : "_NET_WM_WINDOW_TYPE_NORMAL";
-    const xcb_atom_t windowType = atom(c, typeAtom.c_str());
+    const xcb_atom_t windowType = atom(c, dock ? "_NET_WM_WINDOW_TYPE_DOCK" : "_NET_WM_WINDOW_TYPE_NORMAL");
     xcb_change_property(c, XCB_PROP_MODE_REPLACE, w, atom(c, "_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32, 1, &windowType);
     if (fullscreen) {
         const xcb_atom_t state = atom(c, "_NET_WM_STATE_FULLSCREEN");

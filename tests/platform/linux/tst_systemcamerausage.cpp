@@ -1,9 +1,7 @@
 // Cameras held open, read from fixture /proc, /sys and /dev trees.
+#include "FixtureTree.h"
 #include "detection/SystemDeviceUsage.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <unistd.h>
@@ -11,44 +9,18 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestSystemCameraUsage : public QObject {
+class TestSystemCameraUsage : public QObject, protected FixtureTree {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { QVERIFY(resetTree()); }
 
     void noCameraMeansNoProcessIsLookedAt();
     void camerasHeldOpenByTheUserCountRealOnesOnly();
-    void cameraIdentifiersPreferByIdNamesThenSysfsPaths();
 
 private:
-    void write(const QString& relativePath, const QByteArray& contents = {});
-    void link(const QString& relativePath, const QString& target);
-    QString path(const QString& relative) const { return m_root->filePath(relative); }
     void buildCameraTree();
-
-    std::unique_ptr<QTemporaryDir> m_root;
 };
-
-void TestSystemCameraUsage::init()
-{
-    m_root = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_root->isValid());
-}
-
-void TestSystemCameraUsage::write(const QString& relativePath, const QByteArray& contents)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path(relativePath)).absolutePath()));
-    QFile file(path(relativePath));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(contents);
-}
-
-void TestSystemCameraUsage::link(const QString& relativePath, const QString& target)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path(relativePath)).absolutePath()));
-    QVERIFY(QFile::link(target, path(relativePath)));
-}
 
 // Four video devices: a USB webcam with a by-id name (video0), a loopback device in the virtual tree (video1),
 // a loopback device that sits on a platform device (video2), a second webcam without a by-id name (video3).
@@ -116,15 +88,10 @@ void TestSystemCameraUsage::camerasHeldOpenByTheUserCountRealOnesOnly()
         QVERIFY(::lchown(QFile::encodeName(path(u"proc/300"_s)).constData(), 4321, 4321) == 0);
         QCOMPARE(camera.activeCameraIdentifiers().size(), 1);
     }
-}
 
-void TestSystemCameraUsage::cameraIdentifiersPreferByIdNamesThenSysfsPaths()
-{
-    buildCameraTree();
-    link(u"proc/400/fd/9"_s, u"/dev/video3"_s);
-    link(u"proc/401/fd/9"_s, u"/dev/video0"_s);
-    const SystemCameraUsage camera({path(u"proc"_s), path(u"sys"_s), path(u"dev"_s)});
-    // In device order, whatever the order of the processes.
+    // A webcam without a by-id name goes by its sysfs path; the list is in device order, whatever the order of
+    // the processes.
+    link(u"proc/99/fd/9"_s, u"/dev/video3"_s);
     QCOMPARE(camera.activeCameraIdentifiers(),
              (QStringList{u"usb-Acme_HD_Webcam_0001-video-index0"_s,
                           u"/devices/pci0000:00/0000:00:14.0/usb1/1-2/1-2:1.0/video4linux/video3"_s}));

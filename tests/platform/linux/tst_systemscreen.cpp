@@ -6,25 +6,13 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestSystemScreen : public QObject, protected X11ProviderFixture {
+class TestSystemScreen : public X11ProviderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { m_desktop.stop(); }
-    void cleanup() { closeWindows(); }
-
     void theWholeScreenWithoutMonitorsAndNothingWithoutAServer();
     void theMainScreenIsThePrimaryMonitor();
-    void aServerThatGoesAwayLeavesTheZeroRectangle();
 };
-
-void TestSystemScreen::initTestCase()
-{
-    if (!isAvailable())
-        QSKIP("Xvfb, openbox or xdotool is not installed");
-    QVERIFY(startDesktop());
-}
 
 void TestSystemScreen::theWholeScreenWithoutMonitorsAndNothingWithoutAServer()
 {
@@ -48,17 +36,6 @@ void TestSystemScreen::theMainScreenIsThePrimaryMonitor()
     QVERIFY(desk.run(u"xrandr"_s, {u"--setmonitor"_s, u"*RIGHT"_s, u"1280/338x800/211+1280+0"_s, u"none"_s}));
     const SystemScreen screen(std::make_shared<X11Link>(desk.display().toLocal8Bit()));
     QCOMPARE(screen.mainScreenFrame(), QRectF(1280, 0, 1280, 800));
-}
-
-void TestSystemScreen::aServerThatGoesAwayLeavesTheZeroRectangle()
-{
-    XvfbDesktop shortLived;
-    QVERIFY(shortLived.start(false, u"800x600x24"_s));
-    const SystemScreen screen(std::make_shared<X11Link>(shortLived.display().toLocal8Bit()));
-    QCOMPARE(screen.mainScreenFrame(), QRectF(0, 0, 800, 600));
-    MessageCapture capture;
-    shortLived.stop();
-    QTRY_COMPARE(screen.mainScreenFrame(), QRectF());
 }
 
 QTEST_GUILESS_MAIN(TestSystemScreen)

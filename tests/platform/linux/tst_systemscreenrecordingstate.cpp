@@ -7,23 +7,12 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestSystemScreenRecordingState : public QObject, protected X11ProviderFixture {
+class TestSystemScreenRecordingState : public X11ProviderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { m_desktop.stop(); }
-    void cleanup() { closeWindows(); }
-
     void aRecordingTitleCountsOnlyForKnownApplications();
 };
-
-void TestSystemScreenRecordingState::initTestCase()
-{
-    if (!isAvailable())
-        QSKIP("Xvfb, openbox or xdotool is not installed");
-    QVERIFY(startDesktop());
-}
 
 void TestSystemScreenRecordingState::aRecordingTitleCountsOnlyForKnownApplications()
 {

@@ -40,8 +40,6 @@ void TestSystemVideoPlayback::identitiesWithoutAPlaybackQueryAreNeverAsked_data(
 {
     QTest::addColumn<QString>("identity");
     QTest::newRow("browser") << u"firefox"_s;
-    QTest::newRow("browser, written identity") << u"com.google.Chrome"_s;
-    QTest::newRow("streaming application") << u"com.netflix.Netflix"_s;
     QTest::newRow("unknown") << u"org.example.Editor"_s;
     QTest::newRow("empty") << QString();
 }
@@ -81,7 +79,6 @@ void TestSystemVideoPlayback::onlyPlayingCounts_data()
     QTest::addColumn<bool>("playing");
     QTest::newRow("Playing") << QVariant(u"Playing"_s) << true;
     QTest::newRow("Paused") << QVariant(u"Paused"_s) << false;
-    QTest::newRow("Stopped") << QVariant(u"Stopped"_s) << false;
     QTest::newRow("lower case") << QVariant(u"playing"_s) << false;
     QTest::newRow("not a string") << QVariant(1) << false;
     QTest::newRow("missing") << QVariant() << false;

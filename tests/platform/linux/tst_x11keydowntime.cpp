@@ -8,25 +8,14 @@
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
-class TestX11KeyDownTime : public QObject, protected X11ProviderFixture {
+class TestX11KeyDownTime : public X11ProviderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { m_desktop.stop(); }
-    void cleanup() { closeWindows(); }
-
     void keyPressesAreHeardOffTheMainThread();
     void withoutAServerThereIsNoListener();
     void aServerThatGoesAwayEndsTheListener();
 };
-
-void TestX11KeyDownTime::initTestCase()
-{
-    if (!isAvailable())
-        QSKIP("Xvfb, openbox or xdotool is not installed");
-    QVERIFY(startDesktop());
-}
 
 void TestX11KeyDownTime::keyPressesAreHeardOffTheMainThread()
 {
