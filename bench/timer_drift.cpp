@@ -1,5 +1,6 @@
 // Runs the real work timer for a while and reports how far the counted seconds drift from the monotonic
 // clock, extrapolated to a 20-minute work interval. Usage: bench_timer_drift [seconds, default 120]
+#include "InMemoryUserDefaults.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 #include "settings/UserDefaultsStore.h"
@@ -11,26 +12,14 @@
 #include <cmath>
 #include <cstdio>
 
-namespace {
-
-class MemoryStore final : public velto::UserDefaultsStore {
-public:
-    [[nodiscard]] QVariant read(const QString& key) const override { return m_values.value(key); }
-    void write(const QString& key, const QVariant& value) override { m_values.insert(key, value); }
-    void remove(const QString& key) override { m_values.remove(key); }
-
-private:
-    QHash<QString, QVariant> m_values;
-};
-
-} // namespace
+namespace {} // namespace
 
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     const int seconds = argc > 1 ? std::max(5, QByteArray(argv[1]).toInt()) : 120;
 
-    MemoryStore store;
+    InMemoryUserDefaults store;
     velto::SettingsManager settings(store, nullptr);
     velto::BreakConfiguration configuration = settings.breakConfiguration();
     configuration.workInterval = 1.0e6; // long enough that no break interrupts the measurement

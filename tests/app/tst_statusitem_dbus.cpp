@@ -5,6 +5,7 @@
 #include "FakeDetectionProviders.h"
 #include "FakeLaunchAtLogin.h"
 #include "FakeSoundPlayer.h"
+#include "FakeStatusNotifierWatcher.h"
 #include "InMemoryUserDefaults.h"
 #include "scheduling/BreakManager.h"
 
@@ -14,7 +15,6 @@
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
-#include <QMutex>
 #include <QRegularExpression>
 #include <QTest>
 #include <QThread>
@@ -25,35 +25,6 @@ using namespace velto;
 namespace {
 
 const QString watcherName = u"org.kde.StatusNotifierWatcher"_s;
-
-// The smallest watcher a tray icon accepts: a host is registered, and items register with it.
-class FakeWatcher final : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
-    Q_PROPERTY(bool IsStatusNotifierHostRegistered READ isHostRegistered)
-    Q_PROPERTY(int ProtocolVersion READ protocolVersion)
-    Q_PROPERTY(QStringList RegisteredStatusNotifierItems READ items)
-
-public:
-    [[nodiscard]] bool isHostRegistered() const { return true; }
-    [[nodiscard]] int protocolVersion() const { return 0; }
-    [[nodiscard]] QStringList items() const
-    {
-        QMutexLocker lock(&mutex);
-        return registered;
-    }
-
-    mutable QMutex mutex;
-    QStringList registered;
-
-public Q_SLOTS:
-    void RegisterStatusNotifierItem(const QString& service)
-    {
-        QMutexLocker lock(&mutex);
-        registered.append(service);
-    }
-    void RegisterStatusNotifierHost(const QString&) {}
-};
 
 struct MenuEntry {
     int id = 0;
@@ -197,7 +168,7 @@ private Q_SLOTS:
 
 private:
     QThread m_watcherThread;
-    FakeWatcher m_watcher;
+    FakeStatusNotifierWatcher m_watcher;
     FakeDetectionProviders m_providers;
     std::optional<QDBusConnection> m_hostSide;
 };

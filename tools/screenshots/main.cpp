@@ -1,6 +1,7 @@
 // Renders the break screen off screen at 1920×1080 for the README: short and long breaks over several
 // backgrounds. Usage: velto_screenshots OUTPUT_DIR
 #include "BreakWindow.h"
+#include "InMemoryUserDefaults.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 #include "settings/UserDefaultsStore.h"
@@ -18,16 +19,6 @@ using namespace Qt::StringLiterals;
 using namespace velto;
 
 namespace {
-
-class MemoryStore final : public UserDefaultsStore {
-public:
-    [[nodiscard]] QVariant read(const QString& key) const override { return m_values.value(key); }
-    void write(const QString& key, const QVariant& value) override { m_values.insert(key, value); }
-    void remove(const QString& key) override { m_values.remove(key); }
-
-private:
-    QHash<QString, QVariant> m_values;
-};
 
 struct Shot {
     QString name;
@@ -83,7 +74,7 @@ int main(int argc, char** argv)
     };
 
     for (const Shot& shot : shots) {
-        MemoryStore store;
+        InMemoryUserDefaults store;
         SettingsManager settings(store, nullptr);
         BreakConfiguration configuration = settings.breakConfiguration();
         configuration.skipDifficulty = SkipDifficulty::Casual;

@@ -1,8 +1,9 @@
 // Renders the six settings panes off screen, light and dark, for the README.
 // Usage: velto_screenshots_settings OUTPUT_DIR
-#include "detection/ApplicationInfoProviding.h"
+#include "InMemoryUserDefaults.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
+#include "detection/ApplicationInfoProviding.h"
 #include "detection/WorkspaceProviding.h"
 #include "scheduling/ScreenLocking.h"
 #include "settings/SettingsManager.h"
@@ -23,16 +24,6 @@ using namespace Qt::StringLiterals;
 using namespace velto;
 
 namespace {
-
-class MemoryStore final : public UserDefaultsStore {
-public:
-    [[nodiscard]] QVariant read(const QString& key) const override { return m_values.value(key); }
-    void write(const QString& key, const QVariant& value) override { m_values.insert(key, value); }
-    void remove(const QString& key) override { m_values.remove(key); }
-
-private:
-    QHash<QString, QVariant> m_values;
-};
 
 class Lock final : public ScreenLocking {
 public:
@@ -116,7 +107,7 @@ int main(int argc, char** argv)
     const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
     QDir().mkpath(outputDir);
 
-    MemoryStore store;
+    InMemoryUserDefaults store;
     SettingsManager settings(store, nullptr);
     BreakConfiguration breaks = settings.breakConfiguration();
     breaks.longBreakEnabled = true;
