@@ -3,6 +3,7 @@
 #include "BackgroundImage.h"
 #include "BreakViewModel.h"
 #include "DesktopPicture.h"
+#include "FreedMemory.h"
 #include "scheduling/BreakEffects.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
@@ -17,6 +18,7 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QScreen>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -77,8 +79,10 @@ BreakWindow::BreakWindow(SettingsManager* settings, BreakManager* breakManager, 
 BreakWindow::~BreakWindow()
 {
     // Windows still on screen or fading belong to the engine's components; they go before the engine does.
-    for (QQuickWindow* window : findChildren<QQuickWindow*>())
+    for (QQuickWindow* window : findChildren<QQuickWindow*>()) {
+        window->disconnect(this);
         delete window;
+    }
     m_windows.clear();
 }
 
@@ -214,7 +218,26 @@ void BreakWindow::fadeOut(QQuickWindow* window)
         window->hide();
         window->deleteLater();
     });
+    ++m_fadingWindows;
+    connect(window, &QObject::destroyed, this, [this] {
+        // Once the last one has gone, and after the deletions its teardown has queued: freed before that,
+        // the memory would still be in use.
+        if (--m_fadingWindows == 0)
+            QTimer::singleShot(0, this, &BreakWindow::releaseBetweenBreaks);
+    });
     fade->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void BreakWindow::releaseBetweenBreaks()
+{
+    if (m_fadingWindows > 0 || !m_windows.isEmpty() || !m_engine)
+        return;
+    // The decoded picture is read again for the next break; a wallpaper kept until then costs tens of
+    // megabytes for nothing.
+    m_imageSource = m_images->setImage({});
+    m_engine->collectGarbage();
+    m_engine->trimComponentCache();
+    returnFreedMemoryToSystem();
 }
 
 } // namespace velto

@@ -28,7 +28,8 @@ class SoundPlaying;
 
 // Covers the screens with the break screen while a break runs, and plays the chimes and the lock around it.
 // One frameless window per screen, above panels and other windows, on every workspace, out of the taskbar.
-// The QML engine is made for the first window and kept for later breaks. Main thread.
+// The QML engine is made for the first window and kept for later breaks; once the last window of a break has
+// gone, the break's picture and whatever else it freed go back to the system. Main thread.
 class BreakWindow final : public QObject {
     Q_OBJECT
 
@@ -61,6 +62,7 @@ public:
 private:
     QQmlEngine& engine();
     void fadeOut(QQuickWindow* window);
+    void releaseBetweenBreaks();
 
     QPointer<SettingsManager> m_settings;
     QPointer<BreakManager> m_breakManager;
@@ -70,6 +72,8 @@ private:
     BackgroundImageProvider* m_images = nullptr; // owned by the engine
     QUrl m_imageSource;
     QList<QQuickWindow*> m_windows;
+    // Windows hidden and fading out, not yet destroyed.
+    int m_fadingWindows = 0;
 };
 
 } // namespace velto
