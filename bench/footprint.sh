@@ -26,7 +26,12 @@ sleep 0.5
 "$velto" >/dev/null 2>&1 &
 app=$!
 
-pss_mb() { awk '/^Pss:/ {printf "%.1f", $2 / 1024}' "/proc/$app/smaps_rollup"; }
+# PSS shares each library page among the processes that map it, so it moves with whatever else runs Qt on
+# the machine; the anonymous part and the private (unshared) total beside it do not.
+pss_mb() {
+    awk '/^Pss:/ {p = $2} /^Pss_Anon:/ {a = $2} /^Private_(Clean|Dirty):/ {u += $2}
+         END {printf "%.1f (anon %.1f, private %.1f)", p / 1024, a / 1024, u / 1024}' "/proc/$app/smaps_rollup"
+}
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
 # One line per thread: "tid voluntary-switches name", spaces in the name made underscores.
 thread_switches() {
