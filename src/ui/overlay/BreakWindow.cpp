@@ -215,8 +215,22 @@ void BreakWindow::fadeOut(QQuickWindow* window)
     fade->setEasingCurve(QEasingCurve::InOutQuad);
     // The window finishes by itself, whatever show or hide comes next.
     connect(fade, &QAbstractAnimation::finished, window, [window] {
-        window->hide();
-        window->deleteLater();
+        const auto finish = [window] {
+            window->hide();
+            window->deleteLater();
+        };
+        // The renderer frees a texture only when it draws, so a picture let go after the last frame would be
+        // kept until the next break. Faded out by now, the window draws once more without it, then goes.
+        QQuickItem* picture = window->findChild<QQuickItem*>(u"backgroundImage"_s);
+        if (!picture || picture->property("source").toUrl().isEmpty() || !window->isExposed()) {
+            finish();
+            return;
+        }
+        picture->setProperty("source", QUrl());
+        connect(window, &QQuickWindow::frameSwapped, window, finish, Qt::SingleShotConnection);
+        // A window the system no longer draws still goes.
+        QTimer::singleShot(lastFrameMilliseconds, window, finish);
+        window->update();
     });
     ++m_fadingWindows;
     connect(window, &QObject::destroyed, this, [this] {

@@ -36,6 +36,8 @@ class BreakWindow final : public QObject {
 public:
     // Seconds a window takes to fade in or out.
     static constexpr int fadeMilliseconds = 300;
+    // Longest wait, after a fade-out, for the frame that lets go of the picture.
+    static constexpr int lastFrameMilliseconds = 250;
 
     // None of the collaborators is owned; a null sounds or lock means that effect is absent.
     BreakWindow(SettingsManager* settings, BreakManager* breakManager, SoundPlaying* sounds, ScreenLocking* lock,
