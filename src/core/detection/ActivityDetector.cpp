@@ -196,7 +196,7 @@ void ActivityDetector::runDetectionPass()
             handOver->finish();
         },
         Qt::QueuedConnection);
-    // The worker takes nothing else on until this is applied: the next pass waits for it before it starts.
+    // Not waited for here: the next pass waits for it before it begins, and usually finds it long applied.
 }
 
 void ActivityDetector::applySnapshot(const DetectionSnapshot& snapshot)
