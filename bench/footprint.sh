@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Velto's footprint as a desktop user would see it: the real binary on a private Xvfb display and session bus,
 # with a stand-in tray host. After 30 s of settling it samples 60 s of idle running and prints PSS (MB, from
-# /proc smaps_rollup), CPU (% of one core) and wake-ups per second (context switches of all its threads).
-# Then it shows a break, a pre-break card and the settings window, closes them, and prints PSS again.
-# Usage: bench/footprint.sh [BUILD_DIR]    (takes about three minutes)
+# /proc smaps_rollup), CPU (% of one core) and wake-ups per second: the voluntary context switches of all its
+# threads, also listed per thread. Involuntary switches are preemptions by other processes, not wake-ups, so
+# they are left out. Then it shows a break, a pre-break card and the settings window, closes them, and prints
+# PSS again.
+# Usage: bench/footprint.sh [BUILD_DIR]    (takes about three and a half minutes)
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 build=$(cd "${1:-$here/../build}" && pwd)
@@ -17,6 +19,23 @@ velto="$build/bin/velto"
 home=$(mktemp -d)
 trap 'kill "${app:-}" "${host:-}" 2>/dev/null; rm -rf "$home"' EXIT
 export HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_DATA_HOME="$home/.local/share" XDG_CACHE_HOME="$home/.cache"
+# VELTO_FOOTPRINT_PICTURE=1: breaks show a 3840x2160 picture of the user's, as a wallpaper background would.
+if [ -n "${VELTO_FOOTPRINT_PICTURE:-}" ]; then
+    python3 - "$home/picture.png" <<'PNG'
+import struct, sys, zlib
+width, height = 3840, 2160
+row = b"\0" + b"".join(bytes((x * 255 // width, 90, 140)) for x in range(width))
+def chunk(kind, data):
+    return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+with open(sys.argv[1], "wb") as out:
+    out.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)))
+    out.write(chunk(b"IDAT", zlib.compress(row * height)) + chunk(b"IEND", b""))
+PNG
+    mkdir -p "$XDG_CONFIG_HOME/velto"
+    printf '%s\n' '# Velto settings: one JSON value per key.' \
+        'breakAppearance={"backgroundType":"customImage","backgroundColor":{"red":0.1,"green":0.1,"blue":0.1,"opacity":1},"gradientTheme":"midnight","overlayOpacity":0.3,"screenDisplayMode":"allScreens","customMessages":[],"customImagePath":"'"$home"'/picture.png"}' \
+        >"$XDG_CONFIG_HOME/velto/velto.ini"
+fi
 # Short breaks and a short interval would skew an idle reading; the defaults (20 min, 20 s) are what people run.
 "$build/bench/bench_tray_host" >/dev/null &
 host=$!
@@ -24,27 +43,44 @@ sleep 0.5
 "$velto" >/dev/null 2>&1 &
 app=$!
 
-pss_mb() { awk '/^Pss:/ {printf "%.1f", $2 / 1024}' "/proc/$app/smaps_rollup"; }
+# PSS shares each library page among the processes that map it, so it moves with whatever else runs Qt on
+# the machine; the anonymous part and the private (unshared) total beside it do not.
+pss_mb() {
+    awk '/^Pss:/ {p = $2} /^Pss_Anon:/ {a = $2} /^Private_(Clean|Dirty):/ {u += $2}
+         END {printf "%.1f (anon %.1f, private %.1f)", p / 1024, a / 1024, u / 1024}' "/proc/$app/smaps_rollup"
+}
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
-switches() {
-    local total=0 n
+# One line per thread: "tid voluntary-switches name", spaces in the name made underscores.
+thread_switches() {
+    local status tid name n
     for status in /proc/"$app"/task/*/status; do
-        n=$(awk '/ctxt_switches/ {s += $2} END {print s + 0}' "$status" 2>/dev/null || echo 0)
-        total=$((total + n))
+        tid=${status%/status}; tid=${tid##*/}
+        name=$(sed -n 's/^Name:[[:space:]]*//p' "$status" 2>/dev/null) || continue
+        n=$(awk '/^voluntary_ctxt_switches/ {print $2}' "$status" 2>/dev/null) || continue
+        [ -n "$n" ] && printf '%s %s %s\n' "$tid" "$n" "${name// /_}"
     done
-    echo "$total"
 }
 
 sleep 30
 kill -0 "$app" || { echo "velto did not keep running" >&2; exit 1; }
 hz=$(getconf CLK_TCK)
-t0=$(cpu_ticks); s0=$(switches); start=$(date +%s.%N)
-sleep 60
-t1=$(cpu_ticks); s1=$(switches); end=$(date +%s.%N)
-awk -v pss="$(pss_mb)" -v t="$((t1 - t0))" -v s="$((s1 - s0))" -v hz="$hz" -v a="$start" -v b="$end" 'BEGIN {
-    e = b - a
-    printf "idle, before any window:  PSS %s MB   CPU %.2f %%   wake-ups %.2f /s\n", pss, 100 * t / hz / e, s / e
-}'
+# sample LABEL SECONDS: PSS at the end, CPU and wake-ups over the span, and wake-ups per thread.
+sample() {
+    local t0 t1 start end
+    t0=$(cpu_ticks); thread_switches >"$home/switches0"; start=$(date +%s.%N)
+    sleep "$2"
+    t1=$(cpu_ticks); thread_switches >"$home/switches1"; end=$(date +%s.%N)
+    awk -v label="$1" -v pss="$(pss_mb)" -v t="$((t1 - t0))" -v hz="$hz" -v a="$start" -v b="$end" '
+        NR == FNR { before[$1] = $2; next }
+        # A thread started during the span counts from zero; one that ended is missing from both sums alike.
+        { d = $2 - before[$1]; total += d; line[++n] = sprintf("    %-32s %6.2f /s", $3 " (" $1 ")", d / (b - a)) }
+        END {
+            e = b - a
+            printf "%s:  PSS %s MB   CPU %.2f %%   wake-ups %.2f /s\n", label, pss, 100 * t / hz / e, total / e
+            for (i = 1; i <= n; i++) print line[i]
+        }' "$home/switches0" "$home/switches1"
+}
+sample "idle, before any window" 60
 
 call() { dbus-send --session --print-reply --dest=com.velto.app /com/velto/app "com.velto.app.Control.$1" "${@:2}" >/dev/null; }
 call takeBreakNow
@@ -59,3 +95,5 @@ if call openSettings; then
 fi
 sleep 5
 printf 'after a break, a card and the settings window: PSS %s MB\n' "$(pss_mb)"
+# Windows closed must not leave timers behind: the idle figures again.
+sample "idle, after the windows" 30

@@ -4,10 +4,13 @@
 #include "KnownApplications.h"
 #include "Published.h"
 
+#include <QDeadlineTimer>
 #include <QMetaObject>
 #include <QMutexLocker>
 #include <QTimer>
 #include <QWaitCondition>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,6 +45,9 @@ ActivityDetector::ActivityDetector(DetectionProviders providers, QObject* parent
     Q_ASSERT(m_providers.isComplete());
     m_detectionThread.setObjectName(u"com.velto.activityDetection"_s);
     m_worker->moveToThread(&m_detectionThread);
+    // The timer is the worker thread's own; it goes with the thread's event loop, on that thread.
+    connect(
+        &m_detectionThread, &QThread::finished, m_worker.get(), [this] { stopTimerOnWorker(); }, Qt::DirectConnection);
     m_detectionThread.start(QThread::LowPriority);
 }
 
@@ -75,30 +81,92 @@ void ActivityDetector::setIdleThreshold(double seconds)
 
 void ActivityDetector::startMonitoring()
 {
-    if (m_detectionTimer != nullptr)
+    if (m_isMonitoring)
         return;
-    m_detectionTimer = new QTimer(this);
-    m_detectionTimer->setInterval(detectionIntervalMilliseconds);
-    connect(m_detectionTimer, &QTimer::timeout, this, &ActivityDetector::queueDetectionPass);
-    m_detectionTimer->start();
+    m_isMonitoring = true;
+    const int generation = ++m_monitoringGeneration;
+    QMetaObject::invokeMethod(
+        m_worker.get(), [this, generation] { startTimerOnWorker(generation); }, Qt::QueuedConnection);
 }
 
 void ActivityDetector::stopMonitoring()
+{
+    if (!m_isMonitoring)
+        return;
+    m_isMonitoring = false;
+    ++m_monitoringGeneration;
+    QMetaObject::invokeMethod(
+        m_worker.get(), [this] { stopTimerOnWorker(); }, Qt::QueuedConnection);
+}
+
+void ActivityDetector::startTimerOnWorker(int generation)
+{
+    // Stopped (and perhaps started again) before this reached the worker: a later message takes over.
+    if (generation != m_monitoringGeneration)
+        return;
+    stopTimerOnWorker();
+    m_detectionTimer = new QTimer(m_worker.get());
+    m_detectionTimer->setInterval(detectionIntervalMilliseconds);
+    connect(m_detectionTimer, &QTimer::timeout, m_worker.get(), [this, generation] { timerFired(generation); });
+    m_lastFireAt = QDeadlineTimer::current().deadline();
+    m_detectionTimer->start();
+}
+
+void ActivityDetector::stopTimerOnWorker()
 {
     delete m_detectionTimer;
     m_detectionTimer = nullptr;
 }
 
+int ActivityDetector::passesDue(qint64 millisecondsSinceLastFire)
+{
+    // A quarter interval of slack, so a fire a little early or late stands for one pass, not none or two.
+    const qint64 fires =
+        (millisecondsSinceLastFire + detectionIntervalMilliseconds / 4) / detectionIntervalMilliseconds;
+    return static_cast<int>(std::max<qint64>(fires, 1));
+}
+
+void ActivityDetector::timerFired(int generation)
+{
+    const qint64 now = QDeadlineTimer::current().deadline();
+    const int passes = passesDue(now - m_lastFireAt);
+    m_lastFireAt = now;
+    for (int i = 0; i < passes; ++i) {
+        if (generation != m_monitoringGeneration)
+            return;
+        runDetectionPass();
+    }
+}
+
 void ActivityDetector::queueDetectionPass()
 {
-    // Queued events are never merged, so every fire gets its pass; the worker runs them one after another.
+    // Queued events are never merged, so every call gets its pass; the worker runs them one after another.
     // The worker dies with this object and takes unrun passes with it.
     QMetaObject::invokeMethod(
         m_worker.get(), [this] { runDetectionPass(); }, Qt::QueuedConnection);
 }
 
+bool ActivityDetector::awaitPendingHandOver()
+{
+    std::shared_ptr<HandOver> pending;
+    {
+        QMutexLocker lock(&m_sharedMutex);
+        pending = m_pendingHandOver;
+    }
+    // Usually applied long ago, and then this costs no wake-up at all.
+    if (pending)
+        pending->wait();
+    QMutexLocker lock(&m_sharedMutex);
+    if (m_pendingHandOver == pending)
+        m_pendingHandOver.reset();
+    return !m_shuttingDown;
+}
+
 void ActivityDetector::runDetectionPass()
 {
+    const bool onWorker = QThread::currentThread() != thread();
+    if (onWorker && !awaitPendingHandOver())
+        return;
     SmartPauseSettings settings;
     double idleThreshold = 0;
     {
@@ -110,7 +178,7 @@ void ActivityDetector::runDetectionPass()
     }
     const DetectionSnapshot snapshot = DetectionRules::detectActivity(m_providers, settings, idleThreshold);
 
-    if (QThread::currentThread() == thread()) {
+    if (!onWorker) {
         applySnapshot(snapshot);
         return;
     }
@@ -128,10 +196,7 @@ void ActivityDetector::runDetectionPass()
             handOver->finish();
         },
         Qt::QueuedConnection);
-    handOver->wait();
-    QMutexLocker lock(&m_sharedMutex);
-    if (m_pendingHandOver == handOver)
-        m_pendingHandOver.reset();
+    // Not waited for here: the next pass waits for it before it begins, and usually finds it long applied.
 }
 
 void ActivityDetector::applySnapshot(const DetectionSnapshot& snapshot)

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 
@@ -20,9 +21,14 @@ namespace velto {
 // screen recording, fullscreen games, focus applications and idleness, and publishes what it found.
 //
 // Passes run one at a time, in order, on a worker thread of their own; a pass that overruns delays the next
-// instead of dropping it. Each pass hands its result to the main thread and waits until it is applied, so
-// the published fields, the meeting fields and the activity time stamp are only ever written and read on
-// the main thread. Settings are written on the main thread too; a pass copies them once at its start.
+// instead of dropping it. Each pass hands its result to the main thread, and the worker starts nothing else
+// until it is applied, so the published fields, the meeting fields and the activity time stamp are only ever
+// written and read on the main thread. Settings are written on the main thread too; a pass copies them once
+// at its start.
+//
+// The timer lives on the worker as well: a fire then wakes only the thread that does the work, not the main
+// thread too, and the worker is not woken a second time just to hear that its result has been applied (the
+// next pass checks that before it starts). An idle desktop pays for one main-thread wake-up per pass.
 class ActivityDetector final : public QObject, public ActivityDetecting {
     Q_OBJECT
     Q_INTERFACES(velto::ActivityDetecting)
@@ -75,15 +81,23 @@ public:
 
     // The first pass comes one interval after starting; starting again while monitoring changes nothing.
     Q_INVOKABLE void startMonitoring();
-    // Leaves the published state as it is; passes already queued still run and publish.
+    // Leaves the published state as it is; passes already queued still run and publish. No fire of the timer
+    // starts a pass once this has returned.
     Q_INVOKABLE void stopMonitoring();
-    [[nodiscard]] bool isMonitoring() const { return m_detectionTimer != nullptr; }
+    [[nodiscard]] bool isMonitoring() const { return m_isMonitoring; }
 
-    // The timer's action: queues one pass on the worker thread. Public so tests can drive passes.
+    // The object that passes and the detection timer live on, in the worker thread; for tests that look at
+    // the timer (from that thread).
+    [[nodiscard]] QObject* detectionWorker() const { return m_worker.get(); }
+    // How many passes a fire stands for when the last one was this long ago: a worker held up by a slow pass
+    // misses fires, and each missed fire still gets its pass, as a queue of fires would.
+    [[nodiscard]] static int passesDue(qint64 millisecondsSinceLastFire);
+
+    // Queues one pass on the worker thread, as a fire of the timer does. Public so tests can drive passes.
     void queueDetectionPass();
-    // One pass. On the worker thread it hands the result to the main thread and waits until it is applied;
-    // called on the main thread (tests) it applies directly. Never call it on the main thread while passes
-    // are queued on the worker.
+    // One pass. On the worker thread it first waits until the previous pass's result has been applied, then
+    // hands its own result to the main thread; called on the main thread (tests) it applies directly. Never
+    // call it on the main thread while passes are queued on the worker.
     void runDetectionPass();
     // Main thread: publishes a pass's result.
     void applySnapshot(const DetectionSnapshot& snapshot);
@@ -107,6 +121,13 @@ private:
     // The first row of the status table that holds. The focus text asks the workspace, so only when wanted.
     [[nodiscard]] Status status(bool withText) const;
 
+    // Worker thread: the timer's side of starting and stopping, and one fire.
+    void startTimerOnWorker(int generation);
+    void stopTimerOnWorker();
+    void timerFired(int generation);
+    // Worker thread: waits for the main thread to apply the previous pass; false once shutting down.
+    bool awaitPendingHandOver();
+
     bool m_isInMeeting = false;
     bool m_isWatchingVideo = false;
     bool m_isScreenRecording = false;
@@ -129,7 +150,14 @@ private:
     bool m_shuttingDown = false;
     std::shared_ptr<HandOver> m_pendingHandOver;
 
+    bool m_isMonitoring = false;
+    // Changed by every start and stop, so a fire from a timer that has been stopped is recognised as such on
+    // the worker even before the stop itself reaches it.
+    std::atomic<int> m_monitoringGeneration = 0;
+    // Worker thread only.
     QTimer* m_detectionTimer = nullptr;
+    qint64 m_lastFireAt = 0;
+
     QThread m_detectionThread;
     // Lives on the detection thread; passes are queued to it, so they run there in order.
     std::unique_ptr<QObject> m_worker;

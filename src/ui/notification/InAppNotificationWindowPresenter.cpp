@@ -3,6 +3,7 @@
 #include "BreakViewModel.h"
 #include "BreakWindow.h"
 #include "DesktopSettings.h"
+#include "FreedMemory.h"
 #include "NotificationWindowHints.h"
 #include "PreBreakNotificationHostingView.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
@@ -18,6 +19,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -109,8 +111,10 @@ InAppNotificationWindowPresenter::InAppNotificationWindowPresenter(std::function
 InAppNotificationWindowPresenter::~InAppNotificationWindowPresenter()
 {
     // Cards still up or fading were made by the engine's components; they go before the engine does.
-    for (QQuickWindow* window : findChildren<QQuickWindow*>(Qt::FindDirectChildrenOnly))
+    for (QQuickWindow* window : findChildren<QQuickWindow*>(Qt::FindDirectChildrenOnly)) {
+        window->disconnect(this);
         delete window;
+    }
 }
 
 bool InAppNotificationWindowPresenter::reduceMotion() const
@@ -159,6 +163,9 @@ InAppNotificationWindowPresenter::makePanel(std::shared_ptr<PreBreakNotification
 
     auto* window = new QQuickWindow;
     static_cast<QObject*>(window)->setParent(this);
+    // After the deletions the window's teardown queues, so that what it frees is free by then.
+    connect(window, &QObject::destroyed, this,
+            [this] { QTimer::singleShot(0, this, &InAppNotificationWindowPresenter::releaseBetweenCards); });
     // A tool window the window manager keeps on top and never focuses; on X11 the hints below add every
     // workspace and no taskbar entry.
     window->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
@@ -280,6 +287,15 @@ void InAppNotificationWindowPresenter::hideNow()
                              leaving->hide();
                              leaving->deleteLater();
                          });
+}
+
+void InAppNotificationWindowPresenter::releaseBetweenCards()
+{
+    if (!m_engine || !findChildren<QQuickWindow*>(Qt::FindDirectChildrenOnly).isEmpty())
+        return;
+    m_engine->collectGarbage();
+    m_engine->trimComponentCache();
+    returnFreedMemoryToSystem();
 }
 
 void InAppNotificationWindowPresenter::closeAtOnce(QQuickWindow* window)

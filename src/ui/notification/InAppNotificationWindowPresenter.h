@@ -88,6 +88,8 @@ private:
     QQmlEngine& engine();
     void hideNow();
     void closeAtOnce(QQuickWindow* window);
+    // Once no card is left: the engine's garbage, and the memory the cards freed, back to the system.
+    void releaseBetweenCards();
     [[nodiscard]] bool reduceMotion() const;
     [[nodiscard]] bool naturalScrolling() const;
 

@@ -3,6 +3,7 @@
 #include "BackgroundImage.h"
 #include "BreakViewModel.h"
 #include "DesktopPicture.h"
+#include "FreedMemory.h"
 #include "scheduling/BreakEffects.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
@@ -17,6 +18,7 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QScreen>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -77,8 +79,10 @@ BreakWindow::BreakWindow(SettingsManager* settings, BreakManager* breakManager, 
 BreakWindow::~BreakWindow()
 {
     // Windows still on screen or fading belong to the engine's components; they go before the engine does.
-    for (QQuickWindow* window : findChildren<QQuickWindow*>())
+    for (QQuickWindow* window : findChildren<QQuickWindow*>()) {
+        window->disconnect(this);
         delete window;
+    }
     m_windows.clear();
 }
 
@@ -215,10 +219,43 @@ void BreakWindow::fadeOut(QQuickWindow* window)
     fade->setEasingCurve(QEasingCurve::InOutQuad);
     // The window finishes by itself, whatever show or hide comes next.
     connect(fade, &QAbstractAnimation::finished, window, [window] {
-        window->hide();
-        window->deleteLater();
+        const auto finish = [window] {
+            window->hide();
+            window->deleteLater();
+        };
+        // The renderer frees a texture only when it draws, so a picture let go after the last frame would be
+        // kept until the next break. Faded out by now, the window draws once more without it, then goes.
+        QQuickItem* picture = window->findChild<QQuickItem*>(u"backgroundImage"_s);
+        if (!picture || picture->property("source").toUrl().isEmpty() || !window->isExposed()) {
+            finish();
+            return;
+        }
+        picture->setProperty("source", QUrl());
+        connect(window, &QQuickWindow::frameSwapped, window, finish, Qt::SingleShotConnection);
+        // A window the system no longer draws still goes.
+        QTimer::singleShot(lastFrameMilliseconds, window, finish);
+        window->update();
+    });
+    ++m_fadingWindows;
+    connect(window, &QObject::destroyed, this, [this] {
+        // Once the last one has gone, and after the deletions its teardown has queued: freed before that,
+        // the memory would still be in use.
+        if (--m_fadingWindows == 0)
+            QTimer::singleShot(0, this, &BreakWindow::releaseBetweenBreaks);
     });
     fade->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void BreakWindow::releaseBetweenBreaks()
+{
+    if (m_fadingWindows > 0 || !m_windows.isEmpty() || !m_engine)
+        return;
+    // The decoded picture is read again for the next break; a wallpaper kept until then costs tens of
+    // megabytes for nothing.
+    m_imageSource = m_images->setImage({});
+    m_engine->collectGarbage();
+    m_engine->trimComponentCache();
+    returnFreedMemoryToSystem();
 }
 
 } // namespace velto

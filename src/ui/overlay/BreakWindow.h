@@ -29,13 +29,16 @@ class SoundPlaying;
 
 // Covers the screens with the break screen while a break runs, and plays the chimes and the lock around it.
 // One frameless window per screen, above panels and other windows, on every workspace, out of the taskbar.
-// The QML engine is made for the first window and kept for later breaks. Main thread.
+// The QML engine is made for the first window and kept for later breaks; once the last window of a break has
+// gone, the break's picture and whatever else it freed go back to the system. Main thread.
 class BreakWindow final : public QObject {
     Q_OBJECT
 
 public:
     // Seconds a window takes to fade in or out.
     static constexpr int fadeMilliseconds = 300;
+    // Longest wait, after a fade-out, for the frame that lets go of the picture.
+    static constexpr int lastFrameMilliseconds = 250;
 
     // None of the collaborators is owned; a null sounds or lock means that effect is absent.
     BreakWindow(SettingsManager* settings, BreakManager* breakManager, SoundPlaying* sounds, ScreenLocking* lock,
@@ -64,6 +67,7 @@ public:
 private:
     QQmlEngine& engine();
     void fadeOut(QQuickWindow* window);
+    void releaseBetweenBreaks();
 
     QPointer<SettingsManager> m_settings;
     QPointer<BreakManager> m_breakManager;
@@ -74,6 +78,8 @@ private:
     QUrl m_imageSource;
     QList<QQuickWindow*> m_windows;
     BreakViewModel::DelayedAction m_delayedAction;
+    // Windows hidden and fading out, not yet destroyed.
+    int m_fadingWindows = 0;
 };
 
 } // namespace velto

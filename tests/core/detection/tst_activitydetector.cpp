@@ -51,6 +51,33 @@ bool spinUntil(const std::function<bool()>& done)
     return done();
 }
 
+// The detection timer as its own thread sees it. Messages to the worker keep their order, so this shows the
+// effect of every start and stop made before it.
+struct TimerView {
+    QList<QTimer*> timers;
+    int interval = 0;
+    bool active = false;
+    QThread* thread = nullptr;
+};
+
+TimerView timerOnWorker(ActivityDetector* detector)
+{
+    TimerView view;
+    QObject* const worker = detector->detectionWorker();
+    QMetaObject::invokeMethod(
+        worker,
+        [&] {
+            view.timers = worker->findChildren<QTimer*>();
+            if (!view.timers.isEmpty()) {
+                view.interval = view.timers.first()->interval();
+                view.active = view.timers.first()->isActive();
+                view.thread = view.timers.first()->thread();
+            }
+        },
+        Qt::BlockingQueuedConnection);
+    return view;
+}
+
 } // namespace
 
 class TestActivityDetector : public QObject {
@@ -65,6 +92,9 @@ private Q_SLOTS:
     void statusTable();
     void focusStatusAsksTheWorkspaceAfresh();
     void monitoringStartsAndStopsOnce();
+    void aFireRunsAPassUnlessStopped();
+    void missedFiresStillGetTheirPasses();
+    void theNextPassWaitsForTheResultToBeApplied();
     void passesRunOneAtATimeOnTheWorker();
     void aRunningPassKeepsItsSettings();
     void shutdownWhileAPassWaitsForTheMainThread();
@@ -261,9 +291,14 @@ void TestActivityDetector::monitoringStartsAndStopsOnce()
     Rig rig;
     rig.detector->startMonitoring();
     rig.detector->startMonitoring();
-    const QList<QTimer*> timers = rig.detector->findChildren<QTimer*>();
-    QCOMPARE(timers.size(), 1);
-    QCOMPARE(timers.first()->interval(), 2000);
+    QVERIFY(rig.detector->isMonitoring());
+    TimerView view = timerOnWorker(rig.detector.get());
+    QCOMPARE(view.timers.size(), 1);
+    QCOMPARE(view.interval, 2000);
+    QVERIFY(view.active);
+    // Fires wake the worker, never the main thread.
+    QCOMPARE(view.thread, rig.detector->detectionWorker()->thread());
+    QVERIFY(view.thread != QThread::currentThread());
     // No pass at start: the first comes one interval later.
     QCoreApplication::processEvents();
     QCOMPARE(rig.fakes.idleTime->calls(), 0);
@@ -273,8 +308,92 @@ void TestActivityDetector::monitoringStartsAndStopsOnce()
     rig.pass();
     rig.detector->stopMonitoring();
     rig.detector->stopMonitoring();
-    QVERIFY(rig.detector->findChildren<QTimer*>().isEmpty());
+    QVERIFY(!rig.detector->isMonitoring());
+    QVERIFY(timerOnWorker(rig.detector.get()).timers.isEmpty());
     QVERIFY(rig.detector->isIdle());
+
+    // Stopped and started again before the worker hears of either: still exactly one timer.
+    rig.detector->startMonitoring();
+    rig.detector->stopMonitoring();
+    rig.detector->startMonitoring();
+    view = timerOnWorker(rig.detector.get());
+    QCOMPARE(view.timers.size(), 1);
+    QVERIFY(view.active);
+    QVERIFY(rig.detector->isMonitoring());
+}
+
+void TestActivityDetector::aFireRunsAPassUnlessStopped()
+{
+    Rig rig;
+    std::atomic<bool> onMainThread{false};
+    QThread* const mainThread = QThread::currentThread();
+    rig.fakes.idleTime->hook.set([&] { onMainThread = onMainThread || QThread::currentThread() == mainThread; });
+    rig.fakes.idleTime->seconds.set(3600);
+    QSignalSpy applied(rig.detector.get(), &ActivityDetector::isIdleChanged);
+    rig.detector->startMonitoring();
+    QTimer* const timer = timerOnWorker(rig.detector.get()).timers.value(0);
+    QVERIFY(timer);
+
+    // A fire (made here rather than waited for) runs a pass on the worker and publishes on this thread.
+    QMetaObject::invokeMethod(timer, "timeout", Qt::BlockingQueuedConnection);
+    QVERIFY(spinUntil([&] { return applied.count() == 1; }));
+    QVERIFY(rig.detector->isIdle());
+    QVERIFY(!onMainThread);
+
+    // A fire that comes after stopMonitoring() returned, before the worker has dropped the timer, is ignored.
+    QSemaphore held;
+    QSemaphore gate;
+    QMetaObject::invokeMethod(
+        rig.detector->detectionWorker(),
+        [&] {
+            held.release();
+            gate.acquire();
+            QMetaObject::invokeMethod(timer, "timeout", Qt::DirectConnection);
+        },
+        Qt::QueuedConnection);
+    held.acquire();
+    rig.detector->stopMonitoring();
+    gate.release();
+    QVERIFY(timerOnWorker(rig.detector.get()).timers.isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(rig.fakes.idleTime->calls(), 1);
+    QCOMPARE(applied.count(), 1);
+}
+
+void TestActivityDetector::missedFiresStillGetTheirPasses()
+{
+    // On time, or a little early or late: one pass.
+    QCOMPARE(ActivityDetector::passesDue(2000), 1);
+    QCOMPARE(ActivityDetector::passesDue(1600), 1);
+    QCOMPARE(ActivityDetector::passesDue(2450), 1);
+    // The first fire after a restart of the clock, or a clock that jumped back, still runs its pass.
+    QCOMPARE(ActivityDetector::passesDue(0), 1);
+    QCOMPARE(ActivityDetector::passesDue(-5000), 1);
+    // A pass that held the worker past one or two fires: those fires' passes follow.
+    QCOMPARE(ActivityDetector::passesDue(3700), 2);
+    QCOMPARE(ActivityDetector::passesDue(4100), 2);
+    QCOMPARE(ActivityDetector::passesDue(6200), 3);
+}
+
+void TestActivityDetector::theNextPassWaitsForTheResultToBeApplied()
+{
+    Rig rig;
+    QSemaphore probed;
+    std::atomic<int> appliedSoFar{0};
+    QList<int> appliedAtProbe;
+    rig.fakes.idleTime->hook.set([&] {
+        appliedAtProbe.append(appliedSoFar.load());
+        probed.release();
+    });
+    connect(rig.detector.get(), &ActivityDetector::isIdleChanged, this, [&] { ++appliedSoFar; });
+
+    rig.detector->queueDetectionPass();
+    rig.detector->queueDetectionPass();
+    QVERIFY(probed.tryAcquire(1, 30000));
+    // This thread has not run its event loop, so the first result is unapplied and the second pass holds.
+    QVERIFY(!probed.tryAcquire(1, 300));
+    QVERIFY(spinUntil([&] { return appliedSoFar.load() == 2; }));
+    QCOMPARE(appliedAtProbe, (QList<int>{0, 1}));
 }
 
 void TestActivityDetector::passesRunOneAtATimeOnTheWorker()

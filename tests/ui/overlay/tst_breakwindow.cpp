@@ -11,6 +11,8 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPointer>
+#include <QQmlEngine>
+#include <QQuickImageProvider>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
@@ -336,6 +338,45 @@ private Q_SLOTS:
                  u"/home/u/Pictures/lake.png"_s);
         QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nImage=/opt/walls/sea.jpg\n"_s), u"/opt/walls/sea.jpg"_s);
         QCOMPARE(plasmaWallpaperFromConfig(u"[General]\nColor=1,2,3\n"_s), QString());
+    }
+
+    void thePictureIsLetGoBetweenBreaks()
+    {
+        QTemporaryDir dir;
+        const QString picture = dir.filePath(u"red.png"_s);
+        QImage red(64, 32, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save(picture));
+        Rig rig;
+        rig.appearance([&](BreakAppearance& a) {
+            a.backgroundType = BackgroundType::CustomImage;
+            a.customImagePath = picture;
+            a.overlayOpacity = 1.0;
+        });
+        rig.breaks.takeBreakNow();
+        rig.overlay.show(BreakType::Short);
+        auto* images =
+            dynamic_cast<QQuickImageProvider*>(rig.overlay.engineIfCreated()->imageProvider(u"veltobackground"_s));
+        QVERIFY(images);
+        QSize size;
+        QVERIFY(!images->requestImage({}, &size, {}).isNull());
+
+        // Kept while any window of the break is still fading out, dropped once the last one has gone.
+        QList<QPointer<QQuickWindow>> shown;
+        for (QQuickWindow* window : rig.overlay.windows())
+            shown.append(window);
+        QCOMPARE(shown.size(), 3);
+        rig.overlay.hide();
+        QVERIFY(!images->requestImage({}, &size, {}).isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(std::none_of(shown.begin(), shown.end(), [](const auto& w) { return !w.isNull(); }),
+                                 2000);
+        QTRY_VERIFY_WITH_TIMEOUT(images->requestImage({}, &size, {}).isNull(), 2000);
+
+        // The next break reads the picture again.
+        rig.overlay.show(BreakType::Short);
+        QQuickWindow* window = rig.overlay.windows().first();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        QCOMPARE(window->grabWindow().pixelColor(5, 5), QColor(Qt::red));
     }
 };
 
