@@ -2,6 +2,7 @@
 
 #include "AddFocusAppModel.h"
 #include "ApplicationIconProvider.h"
+#include "FreedMemory.h"
 #include "SettingsBuildNumber.h"
 #include "SettingsPaneModel.h"
 #include "UpdateAvailabilityModel.h"
@@ -77,6 +78,20 @@ void SettingsWindowController::showSettings(SettingsManager* settingsManager, Br
         frame.moveCenter(screen->availableGeometry().center());
         window->setPosition(frame.topLeft());
     }
+    // A closed window is let go at once, with what its pixels and items held: the next showing builds a
+    // fresh one anyway, and people keep Velto running for days after a visit to the settings.
+    connect(window, &QWindow::visibleChanged, this, [this, window](bool visible) {
+        if (visible)
+            return;
+        connect(window, &QObject::destroyed, this, [this] {
+            if (m_engine) {
+                m_engine->collectGarbage();
+                m_engine->trimComponentCache();
+            }
+            returnFreedMemoryToSystem();
+        });
+        window->deleteLater();
+    });
     window->show();
     bringForward(window);
 }
