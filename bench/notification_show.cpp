@@ -3,6 +3,7 @@
 // and the CPU the card costs over its ten seconds on screen while its countdown ticks.
 #include "BreakWindow.h"
 #include "InAppNotificationWindowPresenter.h"
+#include "ProcessUsage.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
 #include <QElapsedTimer>
@@ -18,28 +19,10 @@
 
 using namespace Qt::StringLiterals;
 using namespace velto;
+using bench::cpuSeconds;
+using bench::pssKb;
 
 namespace {
-
-qint64 pssKb()
-{
-    QFile file(u"/proc/self/smaps_rollup"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray& line : file.readAll().split('\n')) {
-        if (line.startsWith("Pss:"))
-            return line.mid(4).trimmed().split(' ').first().toLongLong();
-    }
-    return -1;
-}
-
-double cpuSeconds()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-           double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-}
 
 // Milliseconds from show() to the first frame of the new card.
 double timeShow(InAppNotificationWindowPresenter& presenter, std::shared_ptr<PreBreakNotificationDisplayModel> model)

@@ -4,6 +4,7 @@
 // the memory left once the windows have gone. With --image the break shows a 3840×2160 custom image instead
 // of the default background, as a wallpaper would.
 #include "BreakWindow.h"
+#include "ProcessUsage.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 #include "settings/UserDefaultsStore.h"
@@ -23,6 +24,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace velto;
+using bench::cpuSeconds;
+using bench::pssKb;
 
 namespace {
 
@@ -35,27 +38,6 @@ public:
 private:
     QHash<QString, QVariant> m_values;
 };
-
-// Proportional set size of this process in kilobytes.
-qint64 pssKb()
-{
-    QFile file(u"/proc/self/smaps_rollup"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray& line : file.readAll().split('\n')) {
-        if (line.startsWith("Pss:"))
-            return line.mid(4).trimmed().split(' ').first().toLongLong();
-    }
-    return -1;
-}
-
-double cpuSeconds()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-           double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-}
 
 // Milliseconds from show() until every window has drawn its first frame.
 double timeShow(BreakWindow& overlay)
