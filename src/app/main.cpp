@@ -8,6 +8,7 @@
 #include "VeltoVersion.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QTextStream>
 
 #include <cstdio>
@@ -58,6 +59,8 @@ int runApplication(int argc, char* argv[])
     // Velto's windows draw without a GPU driver; see BreakWindow.
     velto::BreakWindow::useSoftwareRendering();
     QApplication application(argc, argv);
+    // The card, the settings window and the About pane show this as Velto's own icon.
+    QApplication::setWindowIcon(QIcon(u":/velto/icons/VeltoLogo.svg"_s));
     // Closing a settings window or a break overlay must never end the process.
     QApplication::setQuitOnLastWindowClosed(false);
 
