@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
@@ -47,6 +48,8 @@ int main(int argc, char** argv)
     // Twice the pixels, as on a HiDPI screen, so the small card stays crisp in the README.
     qputenv("QT_SCALE_FACTOR", "2");
     QGuiApplication app(argc, argv);
+    // Velto's icon, as the application sets it at start.
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(VELTO_APP_ICON)));
     const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
     QDir().mkpath(outputDir);
 

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QHash>
+#include <QIcon>
 #include <QImage>
 #include <QPalette>
 #include <QQuickWindow>
@@ -103,6 +104,8 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
+    // Velto's icon, as the application sets it at start.
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(VELTO_APP_ICON)));
     QCoreApplication::setApplicationVersion(u"0.1.0"_s);
     const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
     QDir().mkpath(outputDir);
