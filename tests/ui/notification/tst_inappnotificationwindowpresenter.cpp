@@ -1,4 +1,5 @@
 #include "InAppNotificationWindowPresenter.h"
+#include "OffscreenScreens.h"
 #include "PreBreakNotificationHostingView.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
@@ -307,12 +308,8 @@ private Q_SLOTS:
 int main(int argc, char** argv)
 {
     QTemporaryDir configDir;
-    const QString config = configDir.filePath(u"screens.json"_s);
-    QFile file(config);
-    if (!file.open(QIODevice::WriteOnly) || file.write(screensConfig) < 0)
+    if (!useOffscreenScreens(configDir, screensConfig))
         return 1;
-    file.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.toLocal8Bit());
     QGuiApplication app(argc, argv);
     TestInAppNotificationWindowPresenter test;
     return QTest::qExec(&test, argc, argv);

@@ -5,6 +5,7 @@
 #include "FakeScreenLock.h"
 #include "FakeSoundPlayer.h"
 #include "InMemoryUserDefaults.h"
+#include "OffscreenScreens.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 
@@ -383,12 +384,8 @@ private Q_SLOTS:
 int main(int argc, char** argv)
 {
     QTemporaryDir configDir;
-    const QString config = configDir.filePath(u"screens.json"_s);
-    QFile file(config);
-    if (!file.open(QIODevice::WriteOnly) || file.write(screensConfig) < 0)
+    if (!useOffscreenScreens(configDir, screensConfig))
         return 1;
-    file.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.toLocal8Bit());
     BreakWindow::useSoftwareRendering();
     QGuiApplication app(argc, argv);
     TestBreakWindow test;
