@@ -3,7 +3,6 @@
 #include "PreBreakNotificationHostingView.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QParallelAnimationGroup>
