@@ -293,8 +293,7 @@ void InAppNotificationWindowPresenter::releaseBetweenCards()
 {
     if (!m_engine || !findChildren<QQuickWindow*>(Qt::FindDirectChildrenOnly).isEmpty())
         return;
-    m_engine->collectGarbage();
-    m_engine->trimComponentCache();
+    m_engine.reset();
     returnFreedMemoryToSystem();
 }
 

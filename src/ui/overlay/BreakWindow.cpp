@@ -250,11 +250,12 @@ void BreakWindow::releaseBetweenBreaks()
 {
     if (m_fadingWindows > 0 || !m_windows.isEmpty() || !m_engine)
         return;
-    // The decoded picture is read again for the next break; a wallpaper kept until then costs tens of
-    // megabytes for nothing.
-    m_imageSource = m_images->setImage({});
-    m_engine->collectGarbage();
-    m_engine->trimComponentCache();
+    // The next break is minutes away and builds its windows afresh; the engine, its compiled views and a
+    // decoded wallpaper kept until then would cost megabytes for nothing. Cold, a break still shows in
+    // tens of milliseconds.
+    m_imageSource = {};
+    m_images = nullptr;
+    m_engine.reset();
     returnFreedMemoryToSystem();
 }
 

@@ -84,11 +84,12 @@ void SettingsWindowController::showSettings(SettingsManager* settingsManager, Br
         if (visible)
             return;
         connect(window, &QObject::destroyed, this, [this] {
-            if (m_engine) {
-                m_engine->collectGarbage();
-                m_engine->trimComponentCache();
-            }
-            returnFreedMemoryToSystem();
+            // After the deletions the window's teardown has queued; a window opened meanwhile keeps it.
+            QTimer::singleShot(0, this, [this] {
+                if (!m_settingsWindow)
+                    m_engine.reset();
+                returnFreedMemoryToSystem();
+            });
         });
         window->deleteLater();
     });

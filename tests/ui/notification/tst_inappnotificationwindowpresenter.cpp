@@ -188,6 +188,9 @@ private Q_SLOTS:
         QCOMPARE(rig.presenter.panel(), nullptr);
         QVERIFY(!panel->isVisible());
         QTRY_VERIFY(panel.isNull());
+        // With the card gone, its engine goes too; the next card builds one afresh.
+        QTRY_VERIFY(!rig.presenter.engineIfCreated());
+        QVERIFY(rig.show());
     }
 
     void aShowWhileTheCardFadesOutKeepsTheNewCard()

@@ -362,7 +362,8 @@ private Q_SLOTS:
         QSize size;
         QVERIFY(!images->requestImage({}, &size, {}).isNull());
 
-        // Kept while any window of the break is still fading out, dropped once the last one has gone.
+        // Kept while any window of the break is still fading out; once the last one has gone, the engine and
+        // its picture go too.
         QList<QPointer<QQuickWindow>> shown;
         for (QQuickWindow* window : rig.overlay.windows())
             shown.append(window);
@@ -371,7 +372,7 @@ private Q_SLOTS:
         QVERIFY(!images->requestImage({}, &size, {}).isNull());
         QTRY_VERIFY_WITH_TIMEOUT(std::none_of(shown.begin(), shown.end(), [](const auto& w) { return !w.isNull(); }),
                                  2000);
-        QTRY_VERIFY_WITH_TIMEOUT(images->requestImage({}, &size, {}).isNull(), 2000);
+        QTRY_VERIFY_WITH_TIMEOUT(!rig.overlay.engineIfCreated(), 2000);
 
         // The next break reads the picture again.
         rig.overlay.show(BreakType::Short);

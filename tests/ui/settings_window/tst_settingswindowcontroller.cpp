@@ -133,6 +133,13 @@ private Q_SLOTS:
         QVERIFY(second != first);
         QCOMPARE(second->property("selectedTab").toInt(), 0);
         QVERIFY(second->isVisible());
+
+        // The window opened meanwhile kept the engine; once the last one has gone, the engine goes too.
+        QTest::qWait(0);
+        QVERIFY(f.controller.engineIfCreated());
+        second->close();
+        QTRY_VERIFY(!f.controller.engineIfCreated());
+        QVERIFY(f.open());
     }
 
     void updateDotFollowsTheUpdateModelWhileOpen()
