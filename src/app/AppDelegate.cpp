@@ -1,12 +1,10 @@
 #include "AppDelegate.h"
 
-#include "BreakWindow.h"
-#include "InAppNotificationWindowPresenter.h"
-#include "SettingsWindowController.h"
 #include "StandardUpdaterController.h"
 #include "SystemSleepSignals.h"
 #include "UpdateAvailabilityModel.h"
 #include "UpdateWindow.h"
+#include "VeltoWindows.h"
 #include "detection/ActivityDetector.h"
 #include "notification/InAppNotificationManager.h"
 #include "scheduling/BreakManager.h"
@@ -34,7 +32,7 @@ AppDelegate::AppDelegate(AppServices services, QObject* parent)
     m_breakManager->setKeyDownTimeProvider(m_services.keyDownTime.get());
     auto presenter = std::move(m_services.notificationPresenter);
     if (!presenter)
-        presenter = std::make_unique<InAppNotificationWindowPresenter>();
+        presenter = std::make_unique<LazyNotificationPresenter>(m_services.windows);
     m_inAppNotificationManager =
         new InAppNotificationManager(std::move(presenter), m_services.sounds.get(), m_settingsManager, {}, {}, this);
     // Built now, started only when reminders are on.
@@ -49,29 +47,19 @@ AppDelegate::AppDelegate(AppServices services, QObject* parent)
                                                             std::make_unique<UpdateWindowDriver>(version), {}, this);
         m_updaterController->updater()->setOnOpenUrl([](const QUrl& url) { QDesktopServices::openUrl(url); });
     }
-    // Shared by the menu and the command line; the window and its QML engine are built on first use.
-    m_settingsWindowController =
-        new SettingsWindowController({m_services.screenLock.get(), m_activityDetector->workspace(),
-                                      m_services.applicationInfo.get(), m_updateAvailability},
-                                     this);
 }
 
 // The children write to the store, which the services own, so they go first.
 AppDelegate::~AppDelegate()
 {
-    delete m_settingsWindowController;
-    delete m_breakWindow;
+    m_settingsWindows.reset();
+    m_breakOverlay.reset();
     delete m_statusItem;
     delete m_updaterController;
     delete m_activityDetector;
     delete m_inAppNotificationManager;
     delete m_breakManager;
     delete m_settingsManager;
-}
-
-BreakWindow* AppDelegate::breakWindow() const
-{
-    return m_breakWindow;
 }
 
 StatusItem* AppDelegate::statusItem() const
@@ -114,11 +102,15 @@ void AppDelegate::wireComponents()
             [self, type] {
                 if (!self)
                     return;
-                if (!self->m_breakWindow)
-                    self->m_breakWindow =
-                        new BreakWindow(self->m_settingsManager, self->m_breakManager, self->m_services.sounds.get(),
-                                        self->m_services.screenLock.get(), self);
-                self->m_breakWindow->show(type);
+                if (!self->m_breakOverlay) {
+                    VeltoWindows* windows = self->m_services.windows ? self->m_services.windows() : nullptr;
+                    if (!windows)
+                        return;
+                    self->m_breakOverlay =
+                        windows->makeBreakOverlay(self->m_settingsManager, self->m_breakManager,
+                                                  self->m_services.sounds.get(), self->m_services.screenLock.get());
+                }
+                self->m_breakOverlay->show(type);
             },
             Qt::QueuedConnection);
     };
@@ -126,8 +118,8 @@ void AppDelegate::wireComponents()
         QMetaObject::invokeMethod(
             self,
             [self] {
-                if (self && self->m_breakWindow)
-                    self->m_breakWindow->hide();
+                if (self && self->m_breakOverlay)
+                    self->m_breakOverlay->hide();
             },
             Qt::QueuedConnection);
     };
@@ -190,8 +182,8 @@ void AppDelegate::applyEnabled(bool enabled)
     m_breakManager->stop();
     m_activityDetector->stopMonitoring();
     // Stopping ends a running break without announcing it; the overlay must not stay behind.
-    if (m_breakWindow && !m_breakWindow->windows().isEmpty())
-        m_breakWindow->hide();
+    if (m_breakOverlay && m_breakOverlay->isShowing())
+        m_breakOverlay->hide();
 }
 
 void AppDelegate::scheduleStatusItemUpdate()
@@ -384,7 +376,15 @@ void AppDelegate::setRemindersEnabled(bool enabled)
 
 bool AppDelegate::openSettings()
 {
-    m_settingsWindowController->showSettings(m_settingsManager, m_breakManager);
+    // Shared by the menu and the command line; made on first use, from the windows module.
+    if (!m_settingsWindows) {
+        VeltoWindows* windows = m_services.windows ? m_services.windows() : nullptr;
+        if (!windows)
+            return false;
+        m_settingsWindows = windows->makeSettingsWindows({m_services.screenLock.get(), m_activityDetector->workspace(),
+                                                          m_services.applicationInfo.get(), m_updateAvailability});
+    }
+    m_settingsWindows->showSettings(m_settingsManager, m_breakManager);
     return true;
 }
 

@@ -14,9 +14,9 @@ namespace velto {
 
 class ActivityDetector;
 class BreakManager;
-class BreakWindow;
+class BreakOverlay;
 class InAppNotificationManager;
-class SettingsWindowController;
+class SettingsWindows;
 class SettingsManager;
 class StandardUpdaterController;
 class StatusItem;
@@ -65,8 +65,9 @@ public:
     [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }
     [[nodiscard]] ActivityDetector* activityDetector() const { return m_activityDetector; }
     [[nodiscard]] InAppNotificationManager* inAppNotificationManager() const { return m_inAppNotificationManager; }
-    [[nodiscard]] SettingsWindowController* settingsWindowController() const { return m_settingsWindowController; }
-    [[nodiscard]] BreakWindow* breakWindow() const;
+    // Made on first use; null before, and when there are no windows.
+    [[nodiscard]] SettingsWindows* settingsWindows() const { return m_settingsWindows.get(); }
+    [[nodiscard]] BreakOverlay* breakOverlay() const { return m_breakOverlay.get(); }
     [[nodiscard]] StatusItem* statusItem() const;
     [[nodiscard]] UpdateAvailabilityModel* updateAvailability() const { return m_updateAvailability; }
     [[nodiscard]] const AppServices& services() const { return m_services; }
@@ -82,14 +83,14 @@ private:
 
     AppServices m_services;
     QPointer<StatusItem> m_statusItem;
-    QPointer<BreakWindow> m_breakWindow;
     SettingsManager* m_settingsManager = nullptr;
     BreakManager* m_breakManager = nullptr;
     InAppNotificationManager* m_inAppNotificationManager = nullptr;
     ActivityDetector* m_activityDetector = nullptr;
     UpdateAvailabilityModel* m_updateAvailability = nullptr;
     StandardUpdaterController* m_updaterController = nullptr;
-    SettingsWindowController* m_settingsWindowController = nullptr;
+    std::unique_ptr<SettingsWindows> m_settingsWindows;
+    std::unique_ptr<BreakOverlay> m_breakOverlay;
     bool m_statusItemUpdateQueued = false;
     bool m_hasTrayHost = false;
 };

@@ -8,6 +8,7 @@
 #include "scheduling/SoundPlaying.h"
 #include "settings/LaunchAtLoginControlling.h"
 #include "settings/UserDefaultsStore.h"
+#include "windows/LazyWindows.h"
 
 #include <memory>
 
@@ -24,7 +25,9 @@ struct AppServices {
     std::unique_ptr<SoundPlaying> sounds;
     std::unique_ptr<ScreenLocking> screenLock;
     std::unique_ptr<SystemSleepSignals> sleepSignals;
-    // The pre-break card's window; when none is given the shell makes the real one.
+    // The break screen, the card and the settings window; none (or a null answer) shows nothing.
+    WindowsSource windows;
+    // The pre-break card's window; when none is given the shell asks the windows for it on the first card.
     std::unique_ptr<NotificationWindowPresenting> notificationPresenter;
     // Names and icons for the settings window's list of running applications; none is fine.
     std::unique_ptr<ApplicationInfoProviding> applicationInfo;

@@ -1,5 +1,4 @@
 #include "AppServices.h"
-#include "AudioService.h"
 #include "DesktopApplicationInfo.h"
 #include "LaunchAtLoginService.h"
 #include "SystemDetectionProviders.h"
@@ -7,6 +6,8 @@
 #include "SystemSleepSignals.h"
 #include "XdgAutostartEntry.h"
 #include "settings/SettingsFileStore.h"
+#include "windows/LazyWindows.h"
+#include "windows/WindowsModuleLoader.h"
 
 #include <QCoreApplication>
 
@@ -23,7 +24,9 @@ AppServices AppServices::system()
     services.detectionProviders = makeSystemDetectionProviders(desktopEntries);
     services.applicationInfo = std::make_unique<DesktopApplicationInfo>(desktopEntries);
     services.keyDownTime = makeSystemKeyDownTime();
-    services.sounds = std::make_unique<AudioService>();
+    // Windows and chimes come from their module, loaded when the first of them is due.
+    services.windows = veltoWindows;
+    services.sounds = std::make_unique<LazySoundPlayer>(services.windows);
     services.screenLock = std::make_unique<SystemScreenLock>();
     services.sleepSignals = std::make_unique<SystemSleepSignals>();
     services.runsUpdater = true;

@@ -1,5 +1,4 @@
 #include "AppDelegate.h"
-#include "BreakWindow.h"
 #include "CommandLine.h"
 #include "ControlBus.h"
 #include "ControlClient.h"
@@ -56,8 +55,6 @@ int runApplication(int argc, char* argv[])
     setApplicationIdentity();
     QApplication::setApplicationDisplayName(u"Velto"_s);
     QApplication::setDesktopFileName(u"com.velto.app"_s);
-    // Velto's windows draw without a GPU driver; see BreakWindow.
-    velto::BreakWindow::useSoftwareRendering();
     QApplication application(argc, argv);
     // The card, the settings window and the About pane show this as Velto's own icon.
     QApplication::setWindowIcon(QIcon(u":/velto/icons/VeltoLogo.svg"_s));

@@ -30,6 +30,11 @@ icon=$(sed -n 's/^Icon=//p' "$prefix/share/applications/com.velto.app.desktop")
 grep -q "<launchable type=\"desktop-id\">com.velto.app.desktop</launchable>" \
     "$prefix/share/metainfo/com.velto.app.metainfo.xml" || fail "the AppStream file does not launch the desktop entry"
 
+# Its own libraries and its windows module come from the prefix, never from the build tree.
+core=$(ldd "$prefix/bin/velto" | awk '$1 == "libvelto_core.so" {print $3}')
+[[ "$core" == "$prefix/"* ]] || fail "the installed velto loads libvelto_core.so from '$core'"
+[ -n "$(find "$prefix" -name velto-windows.so)" ] || fail "no windows module under $prefix"
+
 version=$("$prefix/bin/velto" --version)
 [[ "$version" == "velto "* ]] || fail "the installed velto answers --version with '$version'"
 
@@ -41,15 +46,18 @@ export QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software
 unset VELTO_TEST_SUITE CI GITHUB_ACTIONS GITHUB_WORKFLOW
 dbus-run-session --config-file="$bus_config" -- bash -c '
     velto="$1"
-    "$velto" >/dev/null 2>&1 &
+    "$velto" >/dev/null 2>"$2" &
     pid=$!
     for _ in $(seq 100); do
         "$velto" status >/dev/null 2>&1 && break
         sleep 0.1
     done
+    # The settings window comes from the installed windows module.
+    "$velto" settings || { kill "$pid"; exit 1; }
     "$velto" quit || { kill "$pid"; exit 1; }
     wait "$pid"
-' _ "$prefix/bin/velto" || fail "the installed velto did not start and quit"
+' _ "$prefix/bin/velto" "$scratch/velto.err" || fail "the installed velto did not start, open its settings and quit"
+! grep -q "cannot load" "$scratch/velto.err" || fail "the installed velto: $(cat "$scratch/velto.err")"
 
 entry="$XDG_CONFIG_HOME/autostart/velto.desktop"
 [ -f "$entry" ] || fail "no autostart entry at $entry"

@@ -10,6 +10,7 @@
 #include "PrivateSystemBus.h"
 #include "SettingsWindowController.h"
 #include "SystemSleepSignals.h"
+#include "VeltoWindows.h"
 #include "detection/ActivityDetector.h"
 #include "notification/InAppNotificationManager.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
@@ -31,7 +32,7 @@ namespace {
 
 // The whole shell on fakes, with the real sleep signals on the test's private buses.
 struct ShellUnderTest {
-    explicit ShellUnderTest(bool enabled = true)
+    explicit ShellUnderTest(bool enabled = true, bool withWindows = true)
     {
         AppServices services;
         auto store = std::make_unique<InMemoryUserDefaults>();
@@ -50,6 +51,10 @@ struct ShellUnderTest {
         auto cardPresenter = std::make_unique<FakeNotificationPresenter>();
         presenter = cardPresenter.get();
         services.notificationPresenter = std::move(cardPresenter);
+        services.windows = [this, withWindows] {
+            ++windowRequests;
+            return withWindows ? builtInVeltoWindows() : nullptr;
+        };
         delegate = std::make_unique<AppDelegate>(std::move(services));
         delegate->onQuit = [this] { ++quits; };
         delegate->applicationDidFinishLaunching();
@@ -64,6 +69,7 @@ struct ShellUnderTest {
     FakeNotificationPresenter* presenter = nullptr;
     std::unique_ptr<AppDelegate> delegate;
     int quits = 0;
+    int windowRequests = 0;
 };
 
 QStringList menuTitles(QMenu* menu)
@@ -115,10 +121,15 @@ private Q_SLOTS:
         QCOMPARE(status.pauseReason, u"appDisabled"_s);
         QVERIFY(!status.enabled);
         // The menu's Settings item and `velto settings` open the same window, built on first use.
-        QVERIFY(!off.delegate->settingsWindowController()->engineIfCreated());
+        QVERIFY(!off.delegate->settingsWindows());
+        QCOMPARE(off.windowRequests, 0);
         QVERIFY(off.delegate->openSettings());
-        QVERIFY(off.delegate->settingsWindowController()->settingsWindow());
-        QTRY_VERIFY(off.delegate->settingsWindowController()->settingsWindow()->isVisible());
+        auto* controller = dynamic_cast<SettingsWindowController*>(off.delegate->settingsWindows());
+        QVERIFY(controller && controller->settingsWindow());
+        QTRY_VERIFY(controller->settingsWindow()->isVisible());
+        QVERIFY(off.delegate->openSettings());
+        QCOMPARE(off.delegate->settingsWindows(), controller);
+        QCOMPARE(off.windowRequests, 1);
 
         ShellUnderTest on;
         QCOMPARE(on.breaks().state(), BreakState::Working);
@@ -189,15 +200,32 @@ private Q_SLOTS:
         QCOMPARE(shell.quits, 1);
     }
 
+    void withoutWindowsTheCycleRunsAndSettingsSayNotAvailable()
+    {
+        ShellUnderTest shell(true, false);
+        QVERIFY(!shell.delegate->openSettings());
+        shell.breaks().takeBreakNow();
+        turnEventLoop();
+        QCOMPARE(shell.breaks().state(), BreakState::OnBreak);
+        QVERIFY(!shell.delegate->breakOverlay());
+        for (int i = 0; i < 11; ++i)
+            shell.breaks().breakTick();
+        shell.delegate->performPrimaryMenuAction();
+        turnEventLoop();
+        QCOMPARE(shell.breaks().state(), BreakState::Working);
+        QCOMPARE(shell.breaks().dailyBreakCount(), 1);
+    }
+
     void breaksShowTheOverlayOnTheNextTurnAndHideIt()
     {
         ShellUnderTest shell;
         shell.breaks().takeBreakNow();
         QCOMPARE(shell.breaks().state(), BreakState::OnBreak);
         // Not yet: the overlay follows once the scheduler's state has settled.
-        QVERIFY(!shell.delegate->breakWindow());
+        QVERIFY(!shell.delegate->breakOverlay());
+        QCOMPARE(shell.windowRequests, 0);
         turnEventLoop();
-        BreakWindow* window = shell.delegate->breakWindow();
+        auto* window = dynamic_cast<BreakWindow*>(shell.delegate->breakOverlay());
         QVERIFY(window);
         QCOMPARE(window->windows().size(), QGuiApplication::screens().size());
         QCOMPARE(shell.sounds->names(), QStringList{u"Glass"_s});
@@ -217,7 +245,8 @@ private Q_SLOTS:
         // The same controller serves the next break.
         shell.breaks().takeBreakNow();
         turnEventLoop();
-        QCOMPARE(shell.delegate->breakWindow(), window);
+        QCOMPARE(shell.delegate->breakOverlay(), window);
+        QCOMPARE(shell.windowRequests, 1);
         // Switching reminders off mid-break takes the overlay away too.
         shell.settings().setIsEnabled(false);
         turnEventLoop();

@@ -202,7 +202,7 @@ private Q_SLOTS:
         m_target.settingsAvailable = false;
         const Outcome outcome = run({u"settings"_s});
         QCOMPARE(outcome.exitCode, ExitCode::failure);
-        QCOMPARE(outcome.err, u"velto: the settings window is not available yet\n"_s);
+        QCOMPARE(outcome.err, u"velto: the settings window cannot be shown in this session\n"_s);
         QCOMPARE(m_target.calls, QStringList{u"openSettings"_s});
     }
 

@@ -107,7 +107,7 @@ int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextSt
     case Command::Settings:
         reply = call(u"openSettings"_s);
         if (reply.type() == QDBusMessage::ReplyMessage && !QDBusReply<bool>(reply).value()) {
-            err << u"velto: the settings window is not available yet"_s << '\n';
+            err << u"velto: the settings window cannot be shown in this session"_s << '\n';
             err.flush();
             return ExitCode::failure;
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BreakViewModel.h"
+#include "VeltoWindows.h"
 #include "settings/SettingsEnums.h"
 
 #include <QList>
@@ -31,7 +32,7 @@ class SoundPlaying;
 // One frameless window per screen, above panels and other windows, on every workspace, out of the taskbar.
 // The QML engine is made for the first window and kept for later breaks; once the last window of a break has
 // gone, the break's picture and whatever else it freed go back to the system. Main thread.
-class BreakWindow final : public QObject {
+class BreakWindow final : public QObject, public BreakOverlay {
     Q_OBJECT
 
 public:
@@ -46,9 +47,10 @@ public:
     ~BreakWindow() override;
 
     // Adds one window per target screen to windows(), fading in, then the start chime and the lock.
-    void show(BreakType breakType);
+    void show(BreakType breakType) override;
     // The end chime, then every window in windows() fades out and goes away; windows() is empty at once.
-    void hide();
+    void hide() override;
+    [[nodiscard]] bool isShowing() const override { return !m_windows.isEmpty(); }
     // Reads the customImage or desktop picture the next windows show; show() calls it for each break.
     void prepareBackgroundImage();
     // A break window covering screen, not yet shown. Null when the break screen cannot be built.

@@ -2,6 +2,7 @@
 
 #include "AddFocusAppModel.h"
 #include "ApplicationIconProvider.h"
+#include "BreakWindow.h"
 #include "FreedMemory.h"
 #include "SettingsBuildNumber.h"
 #include "SettingsPaneModel.h"
@@ -45,8 +46,7 @@ QQmlEngine& SettingsWindowController::engine()
 {
     if (!m_engine) {
         // No GPU is needed, and a session without an OpenGL driver cannot abort the window.
-        if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
-            QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+        BreakWindow::useSoftwareRendering();
         // Fusion follows the desktop palette, light or dark; a style chosen by the user wins.
         if (qEnvironmentVariableIsEmpty("QT_QUICK_CONTROLS_STYLE") && QQuickStyle::name().isEmpty())
             QQuickStyle::setStyle(u"Fusion"_s);

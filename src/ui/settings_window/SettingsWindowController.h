@@ -1,5 +1,6 @@
 #pragma once
 
+#include "VeltoWindows.h"
 #include "scheduling/BreakManager.h"
 
 #include <QObject>
@@ -21,7 +22,7 @@ class WorkspaceProviding;
 
 // The settings window: built on demand, brought forward while it is open, and built afresh (on General)
 // after it was closed. The QML engine is made the first time the window is asked for. Main thread.
-class SettingsWindowController final : public QObject {
+class SettingsWindowController final : public QObject, public SettingsWindows {
     Q_OBJECT
 
 public:
@@ -38,7 +39,7 @@ public:
     ~SettingsWindowController() override;
 
     // Brings the open window forward, or builds a new one for these settings.
-    void showSettings(SettingsManager* settingsManager, BreakManager* breakManager);
+    void showSettings(SettingsManager* settingsManager, BreakManager* breakManager) override;
 
     // The last window built, open or hidden; null before the first showSettings().
     [[nodiscard]] QQuickWindow* settingsWindow() const { return m_settingsWindow; }

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "settings/SettingsEnums.h"
+
+#include <memory>
+
+namespace velto {
+
+class ApplicationInfoProviding;
+class BreakManager;
+class NotificationWindowPresenting;
+class ScreenLocking;
+class SettingsManager;
+class SoundPlaying;
+class UpdateAvailabilityModel;
+class WorkspaceProviding;
+
+// The break screen as the shell drives it. Main thread.
+class BreakOverlay {
+public:
+    virtual ~BreakOverlay() = default;
+    // Covers the target screens for a break of this type, then the start chime and the lock.
+    virtual void show(BreakType breakType) = 0;
+    // The end chime, then the windows fade out and go.
+    virtual void hide() = 0;
+    // Whether windows of a break are up (fading ones that are leaving do not count).
+    [[nodiscard]] virtual bool isShowing() const = 0;
+};
+
+// The settings window as the shell opens it. Main thread.
+class SettingsWindows {
+public:
+    virtual ~SettingsWindows() = default;
+    // Brings the open window forward, or builds a new one for these settings.
+    virtual void showSettings(SettingsManager* settingsManager, BreakManager* breakManager) = 0;
+};
+
+// Everything Velto shows or sounds: the break screen, the pre-break card, the settings window and the chimes.
+// It lives in a module of its own that is loaded the first time something is shown, so a Velto that counts
+// down quietly in the tray never maps Qt Quick, the QML engine or Qt Multimedia. What a make… call returns is
+// owned by the caller; the collaborators are not. Main thread.
+class VeltoWindows {
+public:
+    struct SettingsCollaborators {
+        ScreenLocking* lock = nullptr;
+        WorkspaceProviding* workspace = nullptr;
+        ApplicationInfoProviding* applications = nullptr;
+        UpdateAvailabilityModel* updates = nullptr;
+    };
+
+    virtual ~VeltoWindows() = default;
+    [[nodiscard]] virtual std::unique_ptr<NotificationWindowPresenting> makeNotificationPresenter() = 0;
+    [[nodiscard]] virtual std::unique_ptr<BreakOverlay> makeBreakOverlay(SettingsManager* settings,
+                                                                         BreakManager* breakManager,
+                                                                         SoundPlaying* sounds, ScreenLocking* lock) = 0;
+    [[nodiscard]] virtual std::unique_ptr<SettingsWindows> makeSettingsWindows(SettingsCollaborators collaborators) = 0;
+    [[nodiscard]] virtual std::unique_ptr<SoundPlaying> makeSoundPlayer() = 0;
+};
+
+// The windows linked into this binary, made on first call and kept for the life of the process.
+[[nodiscard]] VeltoWindows* builtInVeltoWindows();
+
+// The module's one exported function: extern "C" VeltoWindows* velto_windows(), the same as builtInVeltoWindows().
+inline constexpr char veltoWindowsEntryPoint[] = "velto_windows";
+
+} // namespace velto
