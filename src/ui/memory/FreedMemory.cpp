@@ -25,10 +25,12 @@ namespace {
 // The base address of the first object of the windows' code; zero when none is marked.
 std::atomic<quintptr> windowsCodeBase{0};
 
-bool anyWindowVisible()
+// Only Velto's own windows count: the tray icon has a window of its own where the tray is an XEmbed one.
+bool anyVeltoWindowVisible()
 {
     const QWindowList windows = QGuiApplication::topLevelWindows();
-    return std::any_of(windows.cbegin(), windows.cend(), [](const QWindow* w) { return w->isVisible(); });
+    return std::any_of(windows.cbegin(), windows.cend(),
+                       [](const QWindow* w) { return w->isVisible() && w->inherits("QQuickWindow"); });
 }
 
 } // namespace
@@ -87,7 +89,7 @@ void returnFreedMemoryToSystem()
 #if defined(__GLIBC__)
     malloc_trim(0);
 #endif
-    if (!anyWindowVisible())
+    if (!anyVeltoWindowVisible())
         returnWindowsCodeToSystem();
 }
 
