@@ -11,6 +11,13 @@
 class LoopbackHttpServer final : public QObject {
 public:
     struct Response {
+        Response(int status_ = 200, QByteArray body_ = {}, bool hang_ = false, QByteArray location_ = {})
+            : status(status_)
+            , body(std::move(body_))
+            , hang(hang_)
+            , location(std::move(location_))
+        {}
+
         int status = 200;
         QByteArray body;
         bool hang = false;   // accept the request and never answer
