@@ -26,8 +26,7 @@ public:
 
     std::unique_ptr<SettingsWindows> makeSettingsWindows(SettingsCollaborators collaborators) override
     {
-        return std::make_unique<SettingsWindowController>(SettingsWindowController::Collaborators{
-            collaborators.lock, collaborators.workspace, collaborators.applications, collaborators.updates});
+        return std::make_unique<SettingsWindowController>(collaborators);
     }
 
     std::unique_ptr<SoundPlaying> makeSoundPlayer() override { return std::make_unique<AudioService>(); }

@@ -13,12 +13,7 @@ class QQmlEngine;
 
 namespace velto {
 
-class ApplicationInfoProviding;
-
-class ScreenLocking;
 class SettingsManager;
-class UpdateAvailabilityModel;
-class WorkspaceProviding;
 
 // The settings window: built on demand, brought forward while it is open, and built afresh (on General)
 // after it was closed. The QML engine is made the first time the window is asked for. Main thread.
@@ -28,12 +23,7 @@ class SettingsWindowController final : public QObject, public SettingsWindows {
 public:
     // None is owned; each must outlive the controller or be null (no lock, no running applications, no
     // names and icons, no update notice).
-    struct Collaborators {
-        ScreenLocking* lock = nullptr;
-        WorkspaceProviding* workspace = nullptr;
-        ApplicationInfoProviding* applications = nullptr;
-        UpdateAvailabilityModel* updates = nullptr;
-    };
+    using Collaborators = VeltoWindows::SettingsCollaborators;
 
     explicit SettingsWindowController(Collaborators collaborators, QObject* parent = nullptr);
     ~SettingsWindowController() override;
