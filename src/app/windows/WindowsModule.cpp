@@ -7,10 +7,6 @@
 extern "C" Q_DECL_EXPORT velto::VeltoWindows* velto_windows()
 {
     // Everything from this module on in the load order is code that only runs while a window is up.
-    static const bool marked = [] {
-        velto::rememberWindowsCodeFrom(reinterpret_cast<const void*>(&velto_windows));
-        return true;
-    }();
-    Q_UNUSED(marked);
+    velto::rememberWindowsCodeFrom(reinterpret_cast<const void*>(&velto_windows));
     return velto::builtInVeltoWindows();
 }
