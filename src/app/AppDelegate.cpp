@@ -102,6 +102,9 @@ void AppDelegate::wireComponents()
             [self, type] {
                 if (!self)
                     return;
+                // One set of windows a break: a request that restarts a running break finds them up.
+                if (self->m_breakOverlay && self->m_breakOverlay->isShowing())
+                    return;
                 if (!self->m_breakOverlay) {
                     VeltoWindows* windows = self->m_services.windows ? self->m_services.windows() : nullptr;
                     if (!windows)
@@ -124,6 +127,21 @@ void AppDelegate::wireComponents()
             Qt::QueuedConnection);
     };
 
+    // However the break ends (its countdown, a skip, reminders switched off or on), the overlay must not
+    // outlive it: its Skip and End Break would do nothing and leave the user locked out. Checked on the next
+    // turn, after the break's own end has asked the windows to go.
+    connect(m_breakManager, &BreakManager::stateChanged, this, [this](BreakState state) {
+        if (state == BreakState::OnBreak)
+            return;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_breakManager->state() != BreakState::OnBreak && m_breakOverlay && m_breakOverlay->isShowing())
+                    m_breakOverlay->hide();
+            },
+            Qt::QueuedConnection);
+    });
+
     m_breakManager->onTimerUpdate = [self](double seconds) {
         if (self)
             self->m_inAppNotificationManager->updateTimeRemaining(seconds);
@@ -141,11 +159,11 @@ void AppDelegate::wireComponents()
     };
     m_inAppNotificationManager->onBreakNow = [self] {
         if (self)
-            self->m_breakManager->takeBreakNow();
+            self->takeBreakNow();
     };
     m_inAppNotificationManager->onPause = [self](double seconds) {
         if (self)
-            self->m_breakManager->pauseFor(seconds);
+            self->pauseFor(seconds);
     };
     m_inAppNotificationManager->onSkip = [self] {
         if (self)
@@ -174,6 +192,11 @@ void AppDelegate::applySmartPauseSettings()
 
 void AppDelegate::applyEnabled(bool enabled)
 {
+    // The store announces every write, also of the value it already holds (`velto enable`, Reset to
+    // Defaults): only a real switch starts or stops anything, so a running break or interval goes on.
+    if (m_appliedEnabled == enabled)
+        return;
+    m_appliedEnabled = enabled;
     if (enabled) {
         m_breakManager->start();
         m_activityDetector->startMonitoring();
@@ -181,9 +204,6 @@ void AppDelegate::applyEnabled(bool enabled)
     }
     m_breakManager->stop();
     m_activityDetector->stopMonitoring();
-    // Stopping ends a running break without announcing it; the overlay must not stay behind.
-    if (m_breakOverlay && m_breakOverlay->isShowing())
-        m_breakOverlay->hide();
 }
 
 void AppDelegate::scheduleStatusItemUpdate()
@@ -282,7 +302,7 @@ void AppDelegate::performPrimaryMenuAction()
     // The menu may have stayed open while the state moved on; what counts is the state now.
     switch (menuBarPresentation().primaryAction) {
     case MenuBarPrimaryAction::TakeBreak:
-        m_breakManager->takeBreakNow();
+        takeBreakNow();
         break;
     case MenuBarPrimaryAction::Resume:
         m_breakManager->resume();
@@ -344,19 +364,41 @@ ControlStatus AppDelegate::controlStatus() const
     return status;
 }
 
+bool AppDelegate::readyForRequestedBreak()
+{
+    switch (m_breakManager->state()) {
+    case BreakState::Working:
+        return true;
+    case BreakState::Paused:
+        // The break ends the pause: afterwards the countdown runs, and the status must not say "Paused".
+        m_breakManager->resume();
+        return true;
+    case BreakState::OnBreak: // one break at a time; a second request would restart and recount it
+    case BreakState::Idle:    // reminders are off, and the menu offers no break then either
+        return false;
+    }
+    return false;
+}
+
 void AppDelegate::takeBreakNow()
 {
-    m_breakManager->takeBreakNow();
+    if (readyForRequestedBreak())
+        m_breakManager->takeBreakNow();
 }
 
 void AppDelegate::startLongBreak()
 {
-    m_breakManager->startLongBreak();
+    if (readyForRequestedBreak())
+        m_breakManager->startLongBreak();
 }
 
 void AppDelegate::pauseFor(double seconds)
 {
-    m_breakManager->pauseFor(seconds);
+    // Only a running countdown can be paused; a pause noted during a break or while reminders are off would
+    // outlast it and leave the countdown running under a "Paused" status.
+    const BreakState state = m_breakManager->state();
+    if (state == BreakState::Working || state == BreakState::Paused)
+        m_breakManager->pauseFor(seconds);
 }
 
 void AppDelegate::resume()

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace velto {
 
@@ -79,6 +80,8 @@ private:
     void wireComponents();
     void applySmartPauseSettings();
     void applyEnabled(bool enabled);
+    // Whether a break asked for now may start; ends a manual pause first.
+    bool readyForRequestedBreak();
     void scheduleStatusItemUpdate();
 
     AppServices m_services;
@@ -93,6 +96,7 @@ private:
     std::unique_ptr<BreakOverlay> m_breakOverlay;
     bool m_statusItemUpdateQueued = false;
     bool m_hasTrayHost = false;
+    std::optional<bool> m_appliedEnabled;
 };
 
 } // namespace velto

@@ -253,6 +253,73 @@ private Q_SLOTS:
         QVERIFY(window->windows().isEmpty());
     }
 
+    void requestsDuringABreakNeitherRestartNorStackIt()
+    {
+        ShellUnderTest shell;
+        shell.delegate->takeBreakNow();
+        turnEventLoop();
+        auto* window = dynamic_cast<BreakWindow*>(shell.delegate->breakOverlay());
+        QVERIFY(window);
+        const qsizetype screens = window->windows().size();
+        shell.breaks().breakTick();
+        const double remaining = shell.breaks().breakTimeRemaining();
+
+        // Each of these once reset the interval under a frozen overlay, or restarted, recounted and stacked it.
+        const std::function<void()> requests[] = {
+            [&] { shell.delegate->setRemindersEnabled(true); },
+            [&] { shell.settings().resetToDefaults(); },
+            [&] { shell.delegate->takeBreakNow(); },
+            [&] { shell.delegate->startLongBreak(); },
+            [&] { shell.delegate->pauseFor(60); },
+        };
+        for (const auto& request : requests) {
+            request();
+            turnEventLoop();
+            QCOMPARE(shell.breaks().state(), BreakState::OnBreak);
+            QCOMPARE(shell.breaks().breakTimeRemaining(), remaining);
+            QCOMPARE(shell.breaks().shortBreakCount(), 1);
+            QCOMPARE(window->windows().size(), screens);
+        }
+        // The scheduler restarting a break by itself still shows one set of windows.
+        shell.breaks().takeBreakNow();
+        turnEventLoop();
+        QCOMPARE(window->windows().size(), screens);
+
+        // Ended, the break leaves nothing paused behind that the status would have to report.
+        shell.breaks().endBreak(true);
+        turnEventLoop();
+        QVERIFY(window->windows().isEmpty());
+        QCOMPARE(shell.breaks().pauseReason(), std::nullopt);
+
+        // Whatever leaves a break, the windows go with it.
+        shell.breaks().takeBreakNow();
+        turnEventLoop();
+        QCOMPARE(window->windows().size(), screens);
+        shell.breaks().start();
+        turnEventLoop();
+        QVERIFY(window->windows().isEmpty());
+    }
+
+    void aBreakAskedForDuringAPauseEndsThePause()
+    {
+        ShellUnderTest shell;
+        shell.delegate->pauseFor(60);
+        QCOMPARE(shell.breaks().state(), BreakState::Paused);
+        shell.delegate->takeBreakNow();
+        QCOMPARE(shell.breaks().state(), BreakState::OnBreak);
+        shell.breaks().endBreak(false);
+        QCOMPARE(shell.breaks().state(), BreakState::Working);
+        QCOMPARE(shell.breaks().pauseReason(), std::nullopt);
+        QVERIFY(!shell.delegate->menuBarPresentation().statusText.startsWith(u"Paused"_s));
+
+        // With reminders off there is no break to take and nothing to pause.
+        ShellUnderTest off(false);
+        off.delegate->takeBreakNow();
+        off.delegate->pauseFor(60);
+        QCOMPARE(off.breaks().state(), BreakState::Idle);
+        QCOMPARE(off.breaks().pauseReason(), PauseReason::appDisabled());
+    }
+
     void statusItemRefreshesOnceAfterTheTickAndRedrawsOnlyOnChange()
     {
         ShellUnderTest shell;
