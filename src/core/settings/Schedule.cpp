@@ -59,7 +59,7 @@ bool Schedule::isWithinOfficeHours(const QDateTime& local) const
     const std::optional<Weekday> day = weekdayFromRawValue(local.date().dayOfWeek() % 7 + 1);
     if (!day || !activeDays.contains(*day))
         return false;
-    const int now = local.time().hour() * 60 + local.time().minute();
+    const qint64 now = local.time().hour() * 60 + local.time().minute();
     return startTime.minutesSinceMidnight() <= now && now <= endTime.minutesSinceMidnight();
 }
 

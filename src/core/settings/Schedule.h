@@ -23,7 +23,8 @@ public:
 
     [[nodiscard]] int hourOrZero() const { return hour.value_or(0); }
     [[nodiscard]] int minuteOrZero() const { return minute.value_or(0); }
-    [[nodiscard]] int minutesSinceMidnight() const { return hourOrZero() * 60 + minuteOrZero(); }
+    // Any stored hour and minute, however large, fit once widened: office hours use them as they stand.
+    [[nodiscard]] qint64 minutesSinceMidnight() const { return qint64(hourOrZero()) * 60 + minuteOrZero(); }
 
     friend bool operator==(const TimeOfDay&, const TimeOfDay&) = default;
 
