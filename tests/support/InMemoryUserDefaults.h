@@ -15,7 +15,10 @@ public:
         writtenKeys.append(key);
     }
     void remove(const QString& key) override { values.remove(key); }
+    bool sync() override { return syncSucceeds; }
 
     QHash<QString, QVariant> values;
     QStringList writtenKeys;
+    // False plays a store whose writes cannot be kept.
+    bool syncSucceeds = true;
 };

@@ -1,21 +1,17 @@
 #include "SettingsFileStore.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 namespace {
-
-QSettings::Format typedIniFormat()
-{
-    static const QSettings::Format format =
-        QSettings::registerFormat(u"ini"_s, &SettingsFileStore::readTypedIni, &SettingsFileStore::writeTypedIni);
-    return format;
-}
 
 // QJsonDocument only holds arrays and objects, so a single value travels inside a one-element array.
 QByteArray encodeScalar(const QJsonValue& value)
@@ -58,8 +54,11 @@ QByteArray encodeValue(const QVariant& value)
     }
 }
 
-QVariant decodeValue(const QByteArray& text)
+QVariant decodeValue(const QByteArray& raw)
 {
+    // A hand edit can leave a byte that is no UTF-8, which the JSON reader refuses outright; as U+FFFD it costs
+    // one character instead of the whole value.
+    const QByteArray text = QString::fromUtf8(raw).toUtf8();
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson('[' + text + ']', &error);
     if (error.error != QJsonParseError::NoError || document.array().size() != 1)
@@ -85,7 +84,7 @@ QVariant decodeValue(const QByteArray& text)
 
 } // namespace
 
-bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& map)
+bool SettingsFileStore::readTypedIni(QIODevice& device, QVariantMap& map)
 {
     QString section;
     while (!device.atEnd()) {
@@ -110,7 +109,7 @@ bool SettingsFileStore::readTypedIni(QIODevice& device, QSettings::SettingsMap& 
     return true;
 }
 
-bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::SettingsMap& map)
+bool SettingsFileStore::writeTypedIni(QIODevice& device, const QVariantMap& map)
 {
     QByteArray text = "# Velto settings: one JSON value per key.\n";
     for (auto it = map.cbegin(); it != map.cend(); ++it) {
@@ -124,10 +123,20 @@ bool SettingsFileStore::writeTypedIni(QIODevice& device, const QSettings::Settin
 }
 
 SettingsFileStore::SettingsFileStore(const QString& filePath)
-    : m_settings(std::make_unique<QSettings>(filePath, typedIniFormat()))
-{}
+    : m_filePath(filePath)
+{
+    QFile file(filePath);
+    if (file.open(QIODevice::ReadOnly))
+        readTypedIni(file, m_values);
+    m_deferredSync.setSingleShot(true);
+    m_deferredSync.setInterval(0);
+    m_deferredSync.callOnTimeout([this] { sync(); });
+}
 
-SettingsFileStore::~SettingsFileStore() = default;
+SettingsFileStore::~SettingsFileStore()
+{
+    sync();
+}
 
 QString SettingsFileStore::defaultFilePath()
 {
@@ -136,27 +145,58 @@ QString SettingsFileStore::defaultFilePath()
 
 QVariant SettingsFileStore::read(const QString& key) const
 {
-    return m_settings->value(key);
+    return m_values.value(key);
 }
 
 void SettingsFileStore::write(const QString& key, const QVariant& value)
 {
-    m_settings->setValue(key, value);
+    m_values.insert(key, value);
+    changed();
 }
 
 void SettingsFileStore::remove(const QString& key)
 {
-    m_settings->remove(key);
+    if (m_values.remove(key) > 0)
+        changed();
 }
 
-void SettingsFileStore::sync()
+void SettingsFileStore::changed()
 {
-    m_settings->sync();
+    // The settings write nine keys at a time; they reach the file together.
+    m_pending = true;
+    if (!m_deferredSync.isActive())
+        m_deferredSync.start();
 }
 
-QString SettingsFileStore::filePath() const
+bool SettingsFileStore::sync()
 {
-    return m_settings->fileName();
+    m_deferredSync.stop();
+    if (!m_pending)
+        return true;
+    const std::optional<QString> problem = writeFile();
+    if (!problem) {
+        m_pending = false;
+        m_reportedProblems.clear();
+        return true;
+    }
+    // Every save tries again; the reason is told once, until a save succeeds or the reason changes.
+    if (!m_reportedProblems.contains(*problem)) {
+        m_reportedProblems.insert(*problem);
+        qWarning("velto: settings cannot be saved to %s: %s; changes last until Velto quits",
+                 qPrintable(QDir::toNativeSeparators(m_filePath)), qPrintable(*problem));
+    }
+    return false;
+}
+
+std::optional<QString> SettingsFileStore::writeFile() const
+{
+    const QString folder = QFileInfo(m_filePath).absolutePath();
+    if (!QDir().mkpath(folder))
+        return u"the folder %1 cannot be created"_s.arg(QDir::toNativeSeparators(folder));
+    QSaveFile file(m_filePath);
+    if (!file.open(QIODevice::WriteOnly) || !writeTypedIni(file, m_values) || !file.commit())
+        return file.errorString();
+    return std::nullopt;
 }
 
 } // namespace velto

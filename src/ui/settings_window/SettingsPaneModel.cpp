@@ -143,6 +143,7 @@ SettingsPaneModel::SettingsPaneModel(SettingsManager* settings, ScreenLocking* l
     connect(settings, &SettingsManager::notificationSettingsChanged, this,
             &SettingsPaneModel::notificationSettingsChanged);
     connect(settings, &SettingsManager::breakAppearanceChanged, this, &SettingsPaneModel::breakAppearanceChanged);
+    connect(settings, &SettingsManager::lastSaveFailedChanged, this, &SettingsPaneModel::saveFailedChanged);
     // Any change re-reads the pickers; each change signal comes after the store holds the new value.
     for (auto signal : {&SettingsPaneModel::isEnabledChanged, &SettingsPaneModel::showTimerInMenuBarChanged,
                         &SettingsPaneModel::launchAtLoginChanged, &SettingsPaneModel::breakConfigurationChanged,

@@ -49,6 +49,8 @@ class SettingsPaneModel final : public QObject {
     Q_PROPERTY(QString displayModeExplanation READ displayModeExplanation NOTIFY breakAppearanceChanged)
     Q_PROPERTY(bool canRemoveMessages READ canRemoveMessages NOTIFY breakAppearanceChanged)
     Q_PROPERTY(bool showLockScreenAlert READ showLockScreenAlert NOTIFY showLockScreenAlertChanged)
+    // The last change could not be saved; the window says so until a later one is.
+    Q_PROPERTY(bool saveFailed READ saveFailed NOTIFY saveFailedChanged)
 
     Q_PROPERTY(bool updateAvailable READ updateAvailable NOTIFY updateChanged)
     Q_PROPERTY(QString updateNudgeText READ updateNudgeText NOTIFY updateChanged)
@@ -107,6 +109,7 @@ public:
     [[nodiscard]] QString displayModeExplanation() const;
     [[nodiscard]] bool canRemoveMessages() const;
     [[nodiscard]] bool showLockScreenAlert() const { return m_showLockScreenAlert; }
+    [[nodiscard]] bool saveFailed() const { return m_settings && m_settings->lastSaveFailed(); }
 
     [[nodiscard]] bool updateAvailable() const { return m_updateAvailable; }
     [[nodiscard]] QString updateNudgeText() const;
@@ -181,6 +184,7 @@ Q_SIGNALS:
     void breakAppearanceChanged();
     void revisionChanged();
     void showLockScreenAlertChanged();
+    void saveFailedChanged();
     void updateChanged();
 
 private:

@@ -86,6 +86,37 @@ ApplicationWindow {
         }
     }
 
+    // A change that could not be saved still applies for now; one quiet line under every pane says so.
+    footer: Rectangle {
+        objectName: "saveProblem"
+        visible: window.paneModel.saveFailed
+        implicitHeight: saveProblemRow.implicitHeight + 14
+        color: Theme.sidebar
+
+        Rectangle {
+            width: parent.width
+            height: 1
+            color: Theme.separator
+        }
+        RowLayout {
+            id: saveProblemRow
+            anchors.fill: parent
+            anchors.leftMargin: 16
+            anchors.rightMargin: 16
+            spacing: 8
+            SymbolIcon { name: "exclamationmark.circle"; size: 15; color: Theme.secondaryText }
+            Label {
+                objectName: "saveProblemText"
+                Layout.fillWidth: true
+                text: qsTr("Your changes could not be saved. They apply until Velto quits.")
+                color: Theme.secondaryText
+                font.pixelSize: Theme.footnoteSize + 1
+                elide: Text.ElideRight
+                Accessible.role: Accessible.AlertMessage
+            }
+        }
+    }
+
     RowLayout {
         anchors.fill: parent
         spacing: 0

@@ -2,6 +2,10 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -14,14 +18,14 @@ class TestSettingsFileStore : public QObject {
 private Q_SLOTS:
     void init()
     {
-        // A folder of its own per case: QSettings caches files by path across instances.
+        // A folder of its own per case, so no case reads another's file.
         m_dir = std::make_unique<QTemporaryDir>();
         QVERIFY(m_dir->isValid());
     }
     void valuesKeepTheirKindAcrossARestart();
     void handEditedAndDamagedLines();
     void binaryJunkReadsAsNothingUseful();
-    void unreadableOrUnwritableFileKeepsValuesInMemory();
+    void unwritableFileKeepsValuesAndSaysWhyOncePerReason();
     void defaultPathFollowsXdgConfigHome();
 
 private:
@@ -61,11 +65,10 @@ void TestSettingsFileStore::valuesKeepTheirKindAcrossARestart()
 
     QVERIFY2(text.contains("pretty={\"a\":1}\n"), text.constData());
 
-    // QSettings keeps a process-wide cache of the file, so parse the text itself as the next start would.
     QBuffer buffer;
     buffer.setData(text);
     QVERIFY(buffer.open(QIODevice::ReadOnly));
-    QSettings::SettingsMap map;
+    QVariantMap map;
     QVERIFY(SettingsFileStore::readTypedIni(buffer, map));
     QCOMPARE(map.value(u"isEnabled"_s), QVariant(false));
     QCOMPARE(map.value(u"flagAsText"_s).typeId(), QMetaType::QString);
@@ -88,6 +91,7 @@ void TestSettingsFileStore::handEditedAndDamagedLines()
               "no equals sign here\n"
               "=orphan value\n"
               "nothing=null\n"
+              "breakAppearance={\"customMessages\":[\"Caf\xe9 time\",\"Look away\"],\"overlayOpacity\":0.8}\n"
               "[Other]\n"
               "key=1\n");
     const SettingsFileStore store(path());
@@ -97,6 +101,12 @@ void TestSettingsFileStore::handEditedAndDamagedLines()
     // A truncated record is no record: it reads as text, which the settings ignore.
     QCOMPARE(store.read(u"breakConfiguration"_s).typeId(), QMetaType::QString);
     QCOMPARE(store.read(u"nothing"_s), QVariant());
+    // A byte that is no UTF-8 costs one character, not the record.
+    const QVariant record = store.read(u"breakAppearance"_s);
+    QCOMPARE(record.typeId(), QMetaType::QByteArray);
+    const QJsonObject appearance = QJsonDocument::fromJson(record.toByteArray()).object();
+    QCOMPARE(appearance.value(u"customMessages"_s).toArray(), (QJsonArray{u"Caf\uFFFD time"_s, u"Look away"_s}));
+    QCOMPARE(appearance.value(u"overlayOpacity"_s).toDouble(), 0.8);
     QCOMPARE(store.read(u"Other/key"_s).toInt(), 1);
 }
 
@@ -109,22 +119,28 @@ void TestSettingsFileStore::binaryJunkReadsAsNothingUseful()
     SettingsFileStore store(path());
     QCOMPARE(store.read(u"isEnabled"_s).typeId() == QMetaType::Bool, false);
     store.write(u"isEnabled"_s, true);
-    store.sync();
+    QVERIFY(store.sync());
     QCOMPARE(SettingsFileStore(path()).read(u"isEnabled"_s), QVariant(true));
 }
 
-void TestSettingsFileStore::unreadableOrUnwritableFileKeepsValuesInMemory()
+void TestSettingsFileStore::unwritableFileKeepsValuesAndSaysWhyOncePerReason()
 {
-    // A folder where the file should be cannot be read or written, whoever runs the test.
+    // A folder where the file should be cannot be read or written, and a file where the folder should be
+    // cannot be created, whoever runs the test (also root, whom permissions do not stop).
     QVERIFY(QDir(m_dir->path()).mkpath(u"folder.ini"_s));
-    // A file where the folder should be cannot be created at all.
     writeFile("isEnabled=false\n");
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
     for (const QString& bad : {path(u"folder.ini"_s), path(u"velto.ini/inside.ini"_s)}) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^velto: settings cannot be saved to "_s +
+                                                              QRegularExpression::escape(bad) + u": .+"_s));
         SettingsFileStore store(bad);
         QCOMPARE(store.read(u"isEnabled"_s), QVariant());
-        store.write(u"isEnabled"_s, false);
-        store.write(u"schedule"_s, QByteArray("{}"));
-        store.sync();
+        // Each save tries again; the reason is told once.
+        for (int save = 0; save < 2; ++save) {
+            store.write(u"isEnabled"_s, false);
+            store.write(u"schedule"_s, QByteArray("{}"));
+            QVERIFY(!store.sync());
+        }
         QCOMPARE(store.read(u"isEnabled"_s), QVariant(false));
         QCOMPARE(store.read(u"schedule"_s), QVariant(QByteArray("{}")));
     }

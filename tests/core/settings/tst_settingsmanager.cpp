@@ -1,9 +1,12 @@
 #include "FakeLaunchAtLogin.h"
 #include "InMemoryUserDefaults.h"
 #include "settings/JsonRecord.h"
+#include "settings/SettingsFileStore.h"
 #include "settings/SettingsManager.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace velto;
@@ -48,6 +51,7 @@ private Q_SLOTS:
     void behaviourAndTimingEditsTurnThePresetCustom();
     void applyingPresets();
     void resetRestoresEverythingAndSavesEachStep();
+    void aSaveThatCannotBeKeptIsToldAndTriedAgain();
 };
 
 void TestSettingsManager::firstStartWritesNothingUntilTheFirstChange()
@@ -249,6 +253,35 @@ void TestSettingsManager::resetRestoresEverythingAndSavesEachStep()
     QCOMPARE(store.writtenKeys.size(), 9 * allKeys.size());
     // The selection is assigned once, Balanced, ahead of the configuration.
     QCOMPARE(selectionChanged.size(), 1);
+}
+
+void TestSettingsManager::aSaveThatCannotBeKeptIsToldAndTriedAgain()
+{
+    QTemporaryDir dir;
+    // A file where the settings folder should be: no one, root included, can save there.
+    const QString blocker = dir.filePath(u"config"_s);
+    QFile file(blocker);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    const QString path = blocker + u"/velto/velto.ini"_s;
+    SettingsFileStore store(path);
+    SettingsManager settings(store, nullptr);
+    QSignalSpy failedChanged(&settings, &SettingsManager::lastSaveFailedChanged);
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^velto: settings cannot be saved to .*velto\\.ini: "_s));
+
+    settings.setIsEnabled(false);
+    settings.setShowTimerInMenuBar(false);
+    QVERIFY(settings.lastSaveFailed());
+    QCOMPARE(failedChanged.size(), 1);
+    QVERIFY(!settings.isEnabled()); // the change applies for now
+
+    QVERIFY(file.remove());
+    settings.setShowTimerInMenuBar(false);
+    QVERIFY(!settings.lastSaveFailed());
+    QCOMPARE(failedChanged.size(), 2);
+    // Everything held in memory reached the file.
+    QCOMPARE(SettingsFileStore(path).read(u"isEnabled"_s), QVariant(false));
 }
 
 QTEST_GUILESS_MAIN(TestSettingsManager)

@@ -174,6 +174,22 @@ private Q_SLOTS:
         QVERIFY(isShown(sidebar));
     }
 
+    void aChangeThatCannotBeSavedIsToldUnderEveryPane()
+    {
+        Fixture f;
+        QQuickWindow* window = f.open();
+        auto told = [window] { return isShown(named(window, u"saveProblem"_s).value(0)); };
+        QVERIFY(!told());
+        f.store.syncSucceeds = false;
+        toggle(f.pane(0)->findChild<QObject*>(u"showTimerInMenuBar"_s), false);
+        QVERIFY(told());
+        f.pane(4);
+        QVERIFY(told());
+        f.store.syncSucceeds = true;
+        emitSignal(f.pane(4)->findChild<QObject*>(u"addMessage"_s), "clicked");
+        QVERIFY(!told());
+    }
+
     void pickersShowNoSelectionForStoredValuesThatAreNoOption()
     {
         Fixture f;
