@@ -1,6 +1,7 @@
 #include "PreBreakNotificationDisplayModel.h"
 
 #include "Published.h"
+#include "scheduling/SchedulingTypes.h"
 
 #include <cmath>
 
@@ -8,16 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 namespace {
-
-qint64 wholeSeconds(double seconds)
-{
-    // NaN and negative times read as zero; the card never counts below it.
-    if (!(seconds > 0))
-        return 0;
-    if (seconds > 9.0e15)
-        return static_cast<qint64>(9.0e15);
-    return static_cast<qint64>(std::trunc(seconds));
-}
 
 QString counted(qint64 number, const QString& singular, const QString& plural)
 {

@@ -158,7 +158,7 @@ bool BreakManager::canEndBreakEarly() const
 
 QString BreakManager::formattedBreakTimeRemaining() const
 {
-    const auto seconds = static_cast<qint64>(std::trunc(m_breakTimeRemaining));
+    const qint64 seconds = wholeSeconds(m_breakTimeRemaining);
     if (seconds < 60)
         return QString::number(seconds);
     return u"%1:%2"_s.arg(seconds / 60).arg(seconds % 60, 2, 10, QChar(u'0'));

@@ -1,8 +1,19 @@
 #include "SchedulingTypes.h"
 
+#include <algorithm>
+#include <cmath>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
+
+qint64 wholeSeconds(double seconds)
+{
+    constexpr double largest = 9.0e15; // well inside qint64, and beyond any day's countdown
+    if (!(seconds > 0))
+        return 0;
+    return static_cast<qint64>(std::trunc(std::min(seconds, largest)));
+}
 
 QString PauseReason::displayText(const QDateTime& now) const
 {
@@ -10,7 +21,7 @@ QString PauseReason::displayText(const QDateTime& now) const
     case PauseKind::ManuallyPaused:
         if (resumesAt && *resumesAt > now) {
             const double secondsLeft = static_cast<double>(now.msecsTo(*resumesAt)) / 1000.0;
-            const qint64 minutes = static_cast<qint64>(secondsLeft / 60.0) + 1;
+            const qint64 minutes = wholeSeconds(secondsLeft) / 60 + 1;
             return u"Paused \u00B7 resumes in %1 min"_s.arg(minutes);
         }
         return u"Paused"_s;

@@ -58,4 +58,8 @@ public:
     friend bool operator==(const PauseReason&, const PauseReason&) = default;
 };
 
+// A countdown's whole seconds for display, truncated toward zero: NaN and negative times read as zero, and a
+// stored duration too large for any clock is held at a bound instead of overflowing into garbage.
+[[nodiscard]] qint64 wholeSeconds(double seconds);
+
 } // namespace velto

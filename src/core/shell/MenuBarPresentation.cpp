@@ -9,7 +9,7 @@ namespace velto {
 
 QString menuTimeText(double seconds)
 {
-    const qint64 whole = std::isfinite(seconds) && seconds > 0 ? static_cast<qint64>(seconds) : 0;
+    const qint64 whole = wholeSeconds(seconds);
     return u"%1:%2"_s.arg(whole / 60, 2, 10, QLatin1Char('0')).arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 
@@ -105,8 +105,7 @@ MenuBarPresentation makeMenuBarPresentation(const MenuBarInputs& in)
     return p;
 }
 
-TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakState state, double remaining,
-                              double total)
+TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakState state, double remaining, double total)
 {
     TrayIconFace face;
     const bool counting = state == BreakState::Working || state == BreakState::OnBreak;
@@ -116,7 +115,7 @@ TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakStat
     const double left = std::max(0.0, remaining);
     const double fraction = total > 0 && std::isfinite(total) ? std::clamp(left / total, 0.0, 1.0) : 0.0;
     face.ringSteps = static_cast<int>(std::ceil(fraction * TrayIconFace::ringResolution));
-    const auto minutes = static_cast<qint64>(std::ceil(left / 60.0));
+    const qint64 minutes = (wholeSeconds(std::ceil(left)) + 59) / 60;
     face.label = minutes < 100 ? QString::number(minutes) : QString::number(minutes / 60) + u"h"_s;
     return face;
 }

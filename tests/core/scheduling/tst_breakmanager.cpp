@@ -441,6 +441,10 @@ void TestBreakManager::textsForTheMenuAndTheBreakScreen()
     QCOMPARE(rig.manager->formattedBreakTimeRemaining(), u"10:05"_s);
     rig.advance(546);
     QCOMPARE(rig.manager->formattedBreakTimeRemaining(), u"59"_s);
+
+    rig.configure([](BreakConfiguration& c) { c.longBreakDuration = 1e308; });
+    rig.manager->startLongBreak();
+    QCOMPARE(rig.manager->formattedBreakTimeRemaining(), u"150000000000000:00"_s);
 }
 
 QTEST_GUILESS_MAIN(TestBreakManager)

@@ -37,6 +37,8 @@ private Q_SLOTS:
         QCOMPARE(menuTimeText(3600), u"60:00"_s);
         QCOMPARE(menuTimeText(-3), u"00:00"_s);
         QCOMPARE(menuTimeText(std::nan("")), u"00:00"_s);
+        // A hand-edited duration no clock can reach is shown held at a bound, not overflowed.
+        QCOMPARE(menuTimeText(1e308), u"150000000000000:00"_s);
     }
 
     void presentationByStateAndReason_data()
@@ -151,6 +153,7 @@ private Q_SLOTS:
         // Ten seconds later the icon is the same picture, so nothing is redrawn.
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 1489.4, 1500), face);
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 30, 1500).label, u"1"_s);
+        QCOMPARE(makeTrayIconFace(p, BreakState::Working, 1e308, 1e308).label, u"2500000000000h"_s);
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 0, 1500).ringSteps, 0);
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 7200, 7200).label, u"2h"_s);
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 500, 0).ringSteps, 0);
