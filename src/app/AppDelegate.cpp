@@ -424,7 +424,8 @@ bool AppDelegate::openSettings()
         if (!windows)
             return false;
         m_settingsWindows = windows->makeSettingsWindows({m_services.screenLock.get(), m_activityDetector->workspace(),
-                                                          m_services.applicationInfo.get(), m_updateAvailability});
+                                                          m_services.applicationInfo.get(), m_updateAvailability,
+                                                          &m_services.userDefaults->writeState()});
     }
     m_settingsWindows->showSettings(m_settingsManager, m_breakManager);
     return true;

@@ -13,12 +13,12 @@ public:
     {
         values.insert(key, value);
         writtenKeys.append(key);
+        m_writeState.setWriteFailed(!writesSucceed);
     }
     void remove(const QString& key) override { values.remove(key); }
-    bool sync() override { return syncSucceeds; }
 
     QHash<QString, QVariant> values;
     QStringList writtenKeys;
     // False plays a store whose writes cannot be kept.
-    bool syncSucceeds = true;
+    bool writesSucceed = true;
 };

@@ -174,6 +174,7 @@ bool SettingsFileStore::sync()
     if (!m_pending)
         return true;
     const std::optional<QString> problem = writeFile();
+    m_writeState.setWriteFailed(problem.has_value());
     if (!problem) {
         m_pending = false;
         m_reportedProblems.clear();

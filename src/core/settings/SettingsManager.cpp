@@ -145,10 +145,6 @@ void SettingsManager::saveSettings()
     m_userDefaults.write(SettingsKeys::smartPauseSettings.toString(), encodeRecord(m_smartPauseSettings));
     m_userDefaults.write(SettingsKeys::notificationSettings.toString(), encodeRecord(m_notificationSettings));
     m_userDefaults.write(SettingsKeys::breakAppearance.toString(), encodeRecord(m_breakAppearance));
-    // Kept at once rather than later, so the settings window can say so while the change is fresh.
-    const bool failed = !m_userDefaults.sync();
-    if (failed != m_lastSaveFailed)
-        publish(this, m_lastSaveFailed, failed, &SettingsManager::lastSaveFailedChanged);
 }
 
 void SettingsManager::resetToDefaults()

@@ -51,8 +51,6 @@ class SettingsManager final : public QObject {
                    NOTIFY notificationSettingsChanged)
     Q_PROPERTY(velto::BreakAppearance breakAppearance READ breakAppearance WRITE setBreakAppearance NOTIFY
                    breakAppearanceChanged)
-    // The last save could not be kept: the settings apply until the process ends. Announced only when it flips.
-    Q_PROPERTY(bool lastSaveFailed READ lastSaveFailed NOTIFY lastSaveFailedChanged)
 
 public:
     // userDefaults must outlive the manager; launchAtLogin may be null where there is no login-item facility.
@@ -68,7 +66,6 @@ public:
     [[nodiscard]] const SmartPauseSettings& smartPauseSettings() const { return m_smartPauseSettings; }
     [[nodiscard]] const NotificationSettings& notificationSettings() const { return m_notificationSettings; }
     [[nodiscard]] const BreakAppearance& breakAppearance() const { return m_breakAppearance; }
-    [[nodiscard]] bool lastSaveFailed() const { return m_lastSaveFailed; }
 
     void setIsEnabled(bool value);
     void setShowTimerInMenuBar(bool value);
@@ -85,7 +82,7 @@ public:
     // The behaviour fields as they stood when the selected named preset was applied or loaded; none while Custom.
     [[nodiscard]] std::optional<BreakBehaviorSnapshot> breakBehaviorBaseline() const { return m_breakBehaviorBaseline; }
 
-    // Writes all nine keys and has the store keep them.
+    // Writes all nine keys.
     void saveSettings();
     Q_INVOKABLE void resetToDefaults();
     // A named preset installs its timing with the default behaviour; Custom only changes the selection.
@@ -102,7 +99,6 @@ Q_SIGNALS:
     void smartPauseSettingsChanged(const velto::SmartPauseSettings& smartPauseSettings);
     void notificationSettingsChanged(const velto::NotificationSettings& notificationSettings);
     void breakAppearanceChanged(const velto::BreakAppearance& breakAppearance);
-    void lastSaveFailedChanged(bool lastSaveFailed);
 
 private:
     void saveUnlessLoading();
@@ -127,7 +123,6 @@ private:
     SmartPauseSettings m_smartPauseSettings;
     NotificationSettings m_notificationSettings;
     BreakAppearance m_breakAppearance;
-    bool m_lastSaveFailed = false;
 
     UserDefaultsStore& m_userDefaults;
     LaunchAtLoginControlling* m_launchAtLoginService = nullptr;

@@ -124,6 +124,16 @@ QString versionText(const QString& shortVersion, const QString& buildNumber)
     return shortVersion;
 }
 
+void SettingsPaneModel::setStoreWriteState(const StoreWriteState* state)
+{
+    if (m_storeWriteState)
+        m_storeWriteState->disconnect(this);
+    m_storeWriteState = state;
+    if (state)
+        connect(state, &StoreWriteState::writeFailedChanged, this, &SettingsPaneModel::saveFailedChanged);
+    Q_EMIT saveFailedChanged();
+}
+
 SettingsPaneModel::SettingsPaneModel(SettingsManager* settings, ScreenLocking* lock, About about, QObject* parent)
     : QObject(parent)
     , m_settings(settings)
@@ -143,7 +153,6 @@ SettingsPaneModel::SettingsPaneModel(SettingsManager* settings, ScreenLocking* l
     connect(settings, &SettingsManager::notificationSettingsChanged, this,
             &SettingsPaneModel::notificationSettingsChanged);
     connect(settings, &SettingsManager::breakAppearanceChanged, this, &SettingsPaneModel::breakAppearanceChanged);
-    connect(settings, &SettingsManager::lastSaveFailedChanged, this, &SettingsPaneModel::saveFailedChanged);
     // Any change re-reads the pickers; each change signal comes after the store holds the new value.
     for (auto signal : {&SettingsPaneModel::isEnabledChanged, &SettingsPaneModel::showTimerInMenuBarChanged,
                         &SettingsPaneModel::launchAtLoginChanged, &SettingsPaneModel::breakConfigurationChanged,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "settings/SettingsManager.h"
+#include "settings/UserDefaultsStore.h"
 
 #include <QObject>
 #include <QPointer>
@@ -109,7 +110,9 @@ public:
     [[nodiscard]] QString displayModeExplanation() const;
     [[nodiscard]] bool canRemoveMessages() const;
     [[nodiscard]] bool showLockScreenAlert() const { return m_showLockScreenAlert; }
-    [[nodiscard]] bool saveFailed() const { return m_settings && m_settings->lastSaveFailed(); }
+    [[nodiscard]] bool saveFailed() const { return m_storeWriteState && m_storeWriteState->writeFailed(); }
+    // Where the window learns that changes could not be written; none means they always could.
+    void setStoreWriteState(const StoreWriteState* state);
 
     [[nodiscard]] bool updateAvailable() const { return m_updateAvailable; }
     [[nodiscard]] QString updateNudgeText() const;
@@ -192,6 +195,8 @@ private:
     void setShowLockScreenAlert(bool value);
 
     QPointer<SettingsManager> m_settings;
+
+    QPointer<const StoreWriteState> m_storeWriteState;
     ScreenLocking* m_lock = nullptr;
     About m_about;
     int m_revision = 0;

@@ -118,6 +118,7 @@ QQuickWindow* SettingsWindowController::buildWindow(SettingsManager* settingsMan
     SettingsPaneModel::About about{QCoreApplication::applicationVersion(), buildNumber(),
                                    QUrl(QString::fromLatin1(urls::website)), QString::fromLatin1(urls::contactAddress)};
     auto* paneModel = new SettingsPaneModel(settingsManager, m_collaborators.lock, about);
+    paneModel->setStoreWriteState(m_collaborators.storeWriteState);
     auto* focusAppModel =
         new AddFocusAppModel(settingsManager, m_collaborators.workspace, m_collaborators.applications);
     if (UpdateAvailabilityModel* updates = m_collaborators.updates) {

@@ -12,6 +12,7 @@ class NotificationWindowPresenting;
 class ScreenLocking;
 class SettingsManager;
 class SoundPlaying;
+class StoreWriteState;
 class UpdateAvailabilityModel;
 class WorkspaceProviding;
 
@@ -46,6 +47,7 @@ public:
         WorkspaceProviding* workspace = nullptr;
         ApplicationInfoProviding* applications = nullptr;
         UpdateAvailabilityModel* updates = nullptr;
+        const StoreWriteState* storeWriteState = nullptr;
     };
 
     virtual ~VeltoWindows() = default;

@@ -79,7 +79,7 @@ private:
         FakeWorkspace workspace;
         FakeApplicationInfo applications;
         UpdateAvailabilityModel updates;
-        SettingsWindowController controller{{&lock, &workspace, &applications, &updates}};
+        SettingsWindowController controller{{&lock, &workspace, &applications, &updates, &store.writeState()}};
 
         QQuickWindow* open()
         {
@@ -180,12 +180,12 @@ private Q_SLOTS:
         QQuickWindow* window = f.open();
         auto told = [window] { return isShown(named(window, u"saveProblem"_s).value(0)); };
         QVERIFY(!told());
-        f.store.syncSucceeds = false;
+        f.store.writesSucceed = false;
         toggle(f.pane(0)->findChild<QObject*>(u"showTimerInMenuBar"_s), false);
         QVERIFY(told());
         f.pane(4);
         QVERIFY(told());
-        f.store.syncSucceeds = true;
+        f.store.writesSucceed = true;
         emitSignal(f.pane(4)->findChild<QObject*>(u"addMessage"_s), "clicked");
         QVERIFY(!told());
     }
