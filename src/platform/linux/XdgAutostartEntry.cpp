@@ -62,9 +62,10 @@ std::optional<QString> XdgAutostartEntry::setRegistered(bool registered)
 {
     const QString path = entryPath();
     if (!registered) {
+        // No entry is what was asked for: launch at login off is the state of every fresh account.
         QFile entry(path);
         if (!entry.exists())
-            return u"No autostart entry at %1"_s.arg(path);
+            return std::nullopt;
         if (!entry.remove())
             return u"Could not remove %1: %2"_s.arg(path, entry.errorString());
         return std::nullopt;
