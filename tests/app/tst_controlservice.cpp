@@ -130,14 +130,17 @@ private Q_SLOTS:
         QVERIFY(other.calls.isEmpty());
     }
 
-    void pausesThatAreNotPositiveAreRefused_data()
+    void pausesThatCannotBeHonouredAreRefused_data()
     {
         QTest::addColumn<double>("seconds");
         QTest::newRow("zero") << 0.0;
         QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN();
         QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
+        QTest::newRow("longer than a day") << 86400.5;
+        QTest::newRow("beyond any timer") << 6e13;
+        QTest::newRow("huge") << 1e308;
     }
-    void pausesThatAreNotPositiveAreRefused()
+    void pausesThatCannotBeHonouredAreRefused()
     {
         QFETCH(double, seconds);
         FakeControlTarget target;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ControlBus.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -32,7 +34,7 @@ struct CommandLine {
     };
 
     static constexpr int defaultPauseMinutes = 15;
-    static constexpr int maximumPauseMinutes = 24 * 60;
+    static constexpr int maximumPauseMinutes = int(ControlBus::longestPauseSeconds / 60);
 
     Command command = Command::Run;
     bool json = false;                      // status

@@ -14,6 +14,10 @@ inline const QString interfaceName = QStringLiteral("com.velto.app.Control");
 inline const QString notReadyError = QStringLiteral("com.velto.app.Error.NotReady");
 inline const QString invalidArgumentError = QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs");
 
+// The longest pause the bus accepts, the command line's limit: a day. Longer ones would outlast the timers that
+// end them, and nobody means them.
+inline constexpr double longestPauseSeconds = 24 * 60 * 60;
+
 // Every call gives up after this long: a hung instance must not hang the command line or a second start.
 inline constexpr int callTimeoutMs = 5000;
 

@@ -99,9 +99,10 @@ void ControlService::startLongBreak()
 void ControlService::pauseFor(double seconds)
 {
     // Anyone on the session bus may call this, not only our command line.
-    if (!std::isfinite(seconds) || seconds <= 0) {
+    if (!std::isfinite(seconds) || seconds <= 0 || seconds > ControlBus::longestPauseSeconds) {
         if (calledFromDBus())
-            sendErrorReply(ControlBus::invalidArgumentError, u"The pause must last a positive number of seconds"_s);
+            sendErrorReply(ControlBus::invalidArgumentError,
+                           u"A pause lasts more than 0 and at most %1 seconds"_s.arg(ControlBus::longestPauseSeconds));
         return;
     }
     if (ControlTarget* target = readyTarget())
