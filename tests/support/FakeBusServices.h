@@ -59,6 +59,8 @@ public:
         m_connection.unregisterObject(QStringLiteral("/"));
         QDBusConnection::disconnectFromBus(m_connectionName);
     }
+    // A second well-known name for the same peer, as desktops that offer one service under two names do.
+    void alsoOwn(const QString& busName) { m_connection.registerService(busName); }
     FakeBusObject object;
 
 private:

@@ -43,6 +43,12 @@ void TestSystemIdleTime::idleTimeComesFromMutterFirstThenTheScreenSaver()
     auto saver = std::make_unique<FakeService>(u"org.freedesktop.ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s);
     saver->object.methodResults.insert(u"GetSessionIdleTime"_s, QVariant::fromValue(17u));
     QCOMPARE(askOffThread([&] { return idle.secondsSinceLastInput(); }), 17.0);
+    // KDE's screen locker, which also owns org.kde.screensaver, answers the same call in milliseconds.
+    saver.reset();
+    saver = std::make_unique<FakeService>(u"org.freedesktop.ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s);
+    saver->alsoOwn(u"org.kde.screensaver"_s);
+    saver->object.methodResults.insert(u"GetSessionIdleTime"_s, QVariant::fromValue(17500u));
+    QCOMPARE(askOffThread([&] { return idle.secondsSinceLastInput(); }), 17.5);
 
     auto mutter =
         std::make_unique<FakeService>(u"org.gnome.Mutter.IdleMonitor"_s, u"/org/gnome/Mutter/IdleMonitor/Core"_s);

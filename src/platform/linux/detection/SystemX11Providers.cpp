@@ -135,6 +135,22 @@ std::optional<double> SystemIdleTime::x11IdleSeconds() const
     return std::nullopt;
 }
 
+bool SystemIdleTime::countsMilliseconds(const QString& screenSaver) const
+{
+    // GNOME's, Xfce's and Cinnamon's screen savers answer in seconds; KDE's screen locker, the peer that also
+    // owns org.kde.screensaver, in milliseconds. Asked once for each peer that answers.
+    if (screenSaver != m_screenSaverPeer) {
+        auto owner = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                                                    u"org.freedesktop.DBus"_s, u"GetNameOwner"_s);
+        owner << u"org.kde.screensaver"_s; // name
+        const QDBusMessage reply = m_bus.call(owner, QDBus::Block, callTimeout);
+        m_screenSaverPeer = screenSaver;
+        m_screenSaverCountsMilliseconds = reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty() &&
+                                          reply.arguments().constFirst().toString() == screenSaver;
+    }
+    return m_screenSaverCountsMilliseconds;
+}
+
 std::optional<double> SystemIdleTime::busIdleSeconds() const
 {
     if (!m_bus.isConnected()) {
@@ -151,8 +167,10 @@ std::optional<double> SystemIdleTime::busIdleSeconds() const
     auto saver = QDBusMessage::createMethodCall(u"org.freedesktop.ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s,
                                                 u"org.freedesktop.ScreenSaver"_s, u"GetSessionIdleTime"_s);
     const QDBusMessage saverReply = m_bus.call(saver, QDBus::Block, callTimeout);
-    if (saverReply.type() == QDBusMessage::ReplyMessage && !saverReply.arguments().isEmpty())
-        return saverReply.arguments().constFirst().toUInt(); // seconds
+    if (saverReply.type() == QDBusMessage::ReplyMessage && !saverReply.arguments().isEmpty()) {
+        const double value = saverReply.arguments().constFirst().toUInt();
+        return countsMilliseconds(saverReply.service()) ? value / 1000.0 : value;
+    }
     m_log.warn(u"idle-dbus"_s,
                u"Neither the Mutter idle monitor nor the screen saver answers: %1; idle time reads as 0"_s.arg(
                    saverReply.errorMessage()));

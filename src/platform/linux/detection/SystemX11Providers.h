@@ -112,6 +112,8 @@ public:
 
 private:
     [[nodiscard]] std::optional<double> busIdleSeconds() const;
+    // Whether the screen saver at this unique bus name gives its idle time in milliseconds.
+    [[nodiscard]] bool countsMilliseconds(const QString& screenSaver) const;
 
     [[nodiscard]] std::optional<double> x11IdleSeconds() const;
 
@@ -119,6 +121,8 @@ private:
     QDBusConnection m_bus;
     Source m_order = Source::X11First;
     LogOnce m_log;
+    mutable QString m_screenSaverPeer;
+    mutable bool m_screenSaverCountsMilliseconds = false;
 };
 
 } // namespace velto
