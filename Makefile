@@ -5,9 +5,14 @@ JOBS ?= 2
 BUILD_TYPE ?= RelWithDebInfo
 CMAKE_ARGS ?=
 
-.PHONY: run test test-sanitize bench deps build build-sanitize format clean screenshots
+.PHONY: run test test-sanitize bench deps deps-test build build-app build-sanitize format clean screenshots
 
-run: build
+# Configures DIR for BUILD_TYPE with the tests and benchmarks ON or OFF, unless it already is.
+configure = grep -qx 'VELTO_BUILD_TESTS:BOOL=$(3)' $(1)/CMakeCache.txt 2>/dev/null || \
+	cmake -S . -B $(1) -G Ninja -DCMAKE_BUILD_TYPE=$(2) -DVELTO_BUILD_TESTS=$(3) -DVELTO_BUILD_BENCH=$(3) $(CMAKE_ARGS)
+
+# Velto alone: only what building and running it need is installed.
+run: build-app
 	$(BUILD_DIR)/bin/velto
 
 test: build
@@ -34,13 +39,21 @@ screenshots: build
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots_settings docs/screenshots
 
 deps:
-	@bash cmake/install-deps.sh
+	@bash cmake/install-deps.sh cmake/debian-packages.txt
 
-build: deps
-	@test -f $(BUILD_DIR)/CMakeCache.txt || cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) $(CMAKE_ARGS)
+deps-test:
+	@bash cmake/install-deps.sh cmake/debian-packages.txt cmake/debian-test-packages.txt
+
+build-app: deps
+	@$(call configure,$(BUILD_DIR),$(BUILD_TYPE),OFF)
 	cmake --build $(BUILD_DIR) -j$(JOBS)
 
-build-sanitize: deps
+# Everything, tests and benchmarks included.
+build: deps-test
+	@$(call configure,$(BUILD_DIR),$(BUILD_TYPE),ON)
+	cmake --build $(BUILD_DIR) -j$(JOBS)
+
+build-sanitize: deps-test
 	@test -f $(ASAN_DIR)/CMakeCache.txt || cmake -S . -B $(ASAN_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DVELTO_SANITIZE=ON $(CMAKE_ARGS)
 	cmake --build $(ASAN_DIR) -j$(JOBS)
 
