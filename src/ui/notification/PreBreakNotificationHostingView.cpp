@@ -35,6 +35,18 @@ int direction(bool invertedFromDevice)
     return invertedFromDevice ? -1 : 1;
 }
 
+std::optional<QPointF> preciseDelta(QPoint pixelDelta, QPoint angleDelta)
+{
+    if (!pixelDelta.isNull())
+        return QPointF(pixelDelta);
+    // Whole 120-unit notches are a wheel. A touchpad's smooth scrolling comes in fractions of a notch, at the
+    // driver's 15 pixels of finger travel a notch: an eighth of a pixel a unit.
+    constexpr int notch = 120;
+    if (angleDelta.isNull() || (angleDelta.x() % notch == 0 && angleDelta.y() % notch == 0))
+        return std::nullopt;
+    return QPointF(angleDelta) / 8.0;
+}
+
 bool starts(bool hasPixelDelta, QPointF delta, int direction)
 {
     return hasPixelDelta && delta.x() * direction > 0 && std::abs(delta.y()) < std::abs(delta.x());
@@ -145,8 +157,9 @@ void PreBreakNotificationHostingView::wheelEvent(QWheelEvent* event)
         event->ignore();
         return;
     }
-    const bool hasPixelDelta = !event->pixelDelta().isNull();
-    const QPointF delta = event->pixelDelta();
+    const std::optional<QPointF> precise = NotificationSwipe::preciseDelta(event->pixelDelta(), event->angleDelta());
+    const bool hasPixelDelta = precise.has_value();
+    const QPointF delta = precise.value_or(QPointF());
     const Qt::ScrollPhase phase = event->phase();
     // Without scroll phases (X11), a pause between events separates one gesture from the next.
     const bool quietBefore = !m_seenEvent || event->timestamp() - m_lastEventTime >= gestureGapMilliseconds;

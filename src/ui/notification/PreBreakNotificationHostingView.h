@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 class QParallelAnimationGroup;
 
@@ -33,6 +34,9 @@ inline constexpr int springBackReducedMilliseconds = 140;
 namespace NotificationSwipe {
 // -1 when the deltas arrive inverted from the device (natural scrolling), +1 otherwise.
 [[nodiscard]] int direction(bool invertedFromDevice);
+// What a scroll moved, in pixels, when it is precise scrolling (a touchpad); none for a mouse wheel's notches.
+// Pixel deltas where the platform gives them; libinput on X11 reports a touchpad in angle units alone.
+[[nodiscard]] std::optional<QPointF> preciseDelta(QPoint pixelDelta, QPoint angleDelta);
 // A swipe starts on a precise (touchpad) scroll that is more horizontal than vertical and points the right way.
 [[nodiscard]] bool starts(bool hasPixelDelta, QPointF delta, int direction);
 // The tracked amount, limited to 0…1 for direction +1 and to −1…0 for direction −1.

@@ -21,11 +21,13 @@ struct Rig {
     }
 
     // One wheel event as a touchpad sends it; timestamps in milliseconds, set by the test.
-    bool scroll(QPointF pixels, Qt::ScrollPhase phase, bool inverted = false, quint64 timestamp = 0)
+    // With anglesOnly, as libinput's touchpad scrolling arrives on X11: no pixel deltas, 8 angle units a pixel.
+    bool scroll(QPointF pixels, Qt::ScrollPhase phase, bool inverted = false, quint64 timestamp = 0,
+                bool anglesOnly = false)
     {
         const QPointF at(200, 100);
-        QWheelEvent event(at, window.mapToGlobal(at), pixels.toPoint(), (pixels * 120 / 10).toPoint(), Qt::NoButton,
-                          Qt::NoModifier, phase, inverted);
+        QWheelEvent event(at, window.mapToGlobal(at), anglesOnly ? QPoint() : pixels.toPoint(), (pixels * 8).toPoint(),
+                          Qt::NoButton, Qt::NoModifier, phase, inverted);
         event.setTimestamp(timestamp);
         event.setAccepted(false);
         QCoreApplication::sendEvent(host, &event);
@@ -74,6 +76,16 @@ private Q_SLOTS:
         QTest::newRow("diagonal, as much down as across") << true << QPointF(10, 10) << false << false;
         QTest::newRow("diagonal, more across") << true << QPointF(10, -9) << false << true;
     }
+    void whatCountsAsPreciseScrolling()
+    {
+        using NotificationSwipe::preciseDelta;
+        QCOMPARE(preciseDelta({12, 3}, {96, 24}), QPointF(12, 3));
+        QCOMPARE(preciseDelta({}, {100, -20}), QPointF(12.5, -2.5)); // libinput's touchpad on X11
+        QCOMPARE(preciseDelta({}, {0, -120}), std::nullopt);         // a wheel notch
+        QCOMPARE(preciseDelta({}, {240, 0}), std::nullopt);          // a tilt wheel
+        QCOMPARE(preciseDelta({}, {}), std::nullopt);
+    }
+
     void whatStartsASwipe()
     {
         QFETCH(bool, pixels);
@@ -101,6 +113,12 @@ private Q_SLOTS:
         // Momentum after the end is not a new swipe.
         QVERIFY(!rig.scroll({30, 0}, Qt::ScrollMomentum));
         QCOMPARE(rig.dismissals, 1);
+
+        // On X11 a touchpad swipe comes without phases and in angle units only.
+        Rig x11;
+        QVERIFY(x11.scroll({25, 2}, Qt::NoScrollPhase, false, 0, true));
+        QVERIFY(x11.host->isTracking());
+        QCOMPARE(x11.card->x(), -25.0);
     }
 
     void aSwipeLetGoAtSixtyPercentSpringsBack_data()
