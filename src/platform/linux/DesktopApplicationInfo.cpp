@@ -2,9 +2,15 @@
 
 namespace velto {
 
-DesktopApplicationInfo::DesktopApplicationInfo(std::shared_ptr<DesktopEntryIndex> entries)
+DesktopApplicationInfo::DesktopApplicationInfo(std::shared_ptr<DesktopEntryIndex> entries, QStringList desktops)
     : m_entries(std::move(entries))
+    , m_desktops(std::move(desktops))
 {}
+
+QStringList DesktopApplicationInfo::currentDesktops()
+{
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
+}
 
 std::optional<ApplicationInfo> DesktopApplicationInfo::applicationInfo(const QString& identifier) const
 {
@@ -15,7 +21,9 @@ std::optional<ApplicationInfo> DesktopApplicationInfo::applicationInfo(const QSt
         entry = m_entries->entryForWindowClass(identifier);
     if (!entry)
         return std::nullopt;
-    return ApplicationInfo{entry->name, entry->icon, true};
+    // Panels, desktop shells, helpers and Velto itself are no application to focus on.
+    const bool regular = entry->isListedOn(m_desktops) && entry->id != QLatin1String("com.velto.app");
+    return ApplicationInfo{entry->name, entry->icon, regular};
 }
 
 } // namespace velto

@@ -1,3 +1,4 @@
+#include "DesktopApplicationInfo.h"
 #include "FixtureTree.h"
 #include "detection/DesktopEntryIndex.h"
 
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void earlierFoldersWinAndSubfoldersJoinTheId();
     void looksUpByWindowClassThenIdThenProgram();
     void refreshesOnlyWhenAFolderChanged();
+    void onlyWhatLaunchersListIsARegularApplication();
 };
 
 void TestDesktopEntryIndex::parsesTheMainGroupOnly()
@@ -149,6 +151,28 @@ void TestDesktopEntryIndex::refreshesOnlyWhenAFolderChanged()
     write(u"apps/sub/three.desktop"_s, "[Desktop Entry]\nType=Application\nName=Three\n");
     QVERIFY(index.refreshIfChanged());
     QCOMPARE(index.entry(u"sub-three"_s)->name, u"Three"_s);
+}
+
+void TestDesktopEntryIndex::onlyWhatLaunchersListIsARegularApplication()
+{
+    const struct {
+        QString id;
+        QByteArray extra;
+        bool regular;
+    } cases[] = {
+        {u"org.gnome.TextEditor"_s, {}, true},
+        {u"helper"_s, "NoDisplay=true\n", false},
+        {u"gnome-only"_s, "OnlyShowIn=GNOME;\n", true},
+        {u"kde-only"_s, "OnlyShowIn=KDE;\n", false},
+        {u"not-on-gnome"_s, "NotShowIn=Unity;GNOME;\n", false},
+        {u"com.velto.app"_s, {}, false},
+    };
+    for (const auto& c : cases)
+        write(u"a/%1.desktop"_s.arg(c.id), "[Desktop Entry]\nType=Application\nName=N\nExec=x\n" + c.extra);
+    const DesktopApplicationInfo info(std::make_shared<DesktopEntryIndex>(QStringList{path(u"a"_s)}),
+                                      {u"ubuntu"_s, u"GNOME"_s});
+    for (const auto& c : cases)
+        QVERIFY2(info.applicationInfo(c.id)->isRegular == c.regular, qPrintable(c.id));
 }
 
 QTEST_GUILESS_MAIN(TestDesktopEntryIndex)

@@ -133,6 +133,18 @@ QStringList DesktopEntryIndex::defaultApplicationDirs()
     return dirs;
 }
 
+bool DesktopEntry::isListedOn(const QStringList& desktops) const
+{
+    if (noDisplay)
+        return false;
+    const auto any = [&desktops](const QStringList& names) {
+        return std::any_of(desktops.begin(), desktops.end(), [&names](const QString& d) { return names.contains(d); });
+    };
+    if (!onlyShowIn.isEmpty() && !any(onlyShowIn))
+        return false;
+    return !any(notShowIn);
+}
+
 std::optional<DesktopEntry> DesktopEntryIndex::parse(const QByteArray& contents, const QString& id,
                                                      const QString& filePath)
 {
@@ -180,6 +192,12 @@ std::optional<DesktopEntry> DesktopEntryIndex::parse(const QByteArray& contents,
             entry.exec = unescape(value);
         else if (key == "Hidden")
             hidden = value == "true";
+        else if (key == "NoDisplay")
+            entry.noDisplay = value == "true";
+        else if (key == "OnlyShowIn")
+            entry.onlyShowIn = unescape(value).split(u';', Qt::SkipEmptyParts);
+        else if (key == "NotShowIn")
+            entry.notShowIn = unescape(value).split(u';', Qt::SkipEmptyParts);
     }
     if (!sawMainGroup || hidden || type != u"Application"_s || entry.name.isEmpty())
         return std::nullopt;

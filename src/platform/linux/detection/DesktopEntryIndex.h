@@ -38,6 +38,14 @@ public:
     // The file name of the program Exec starts, past any "env VAR=value" prefix; empty for "flatpak run".
     QString executable;
     QString filePath;
+    // NoDisplay=true: an application launchers do not list (a helper, a panel, a handler).
+    bool noDisplay = false;
+    // OnlyShowIn and NotShowIn, as written.
+    QStringList onlyShowIn;
+    QStringList notShowIn;
+
+    // Whether a launcher on these desktops (XDG_CURRENT_DESKTOP, split at ':') lists the application.
+    [[nodiscard]] bool isListedOn(const QStringList& desktops) const;
 
     friend bool operator==(const DesktopEntry&, const DesktopEntry&) = default;
 };
