@@ -2,6 +2,7 @@
 
 #include "StandardUpdaterController.h"
 #include "SystemSleepSignals.h"
+#include "SystemTrayHostWatch.h"
 #include "UpdateAvailabilityModel.h"
 #include "UpdateWindow.h"
 #include "VeltoWindows.h"
@@ -70,10 +71,20 @@ StatusItem* AppDelegate::statusItem() const
 void AppDelegate::applicationDidFinishLaunching()
 {
     m_statusItem = new StatusItem(this);
-    m_hasTrayHost = m_statusItem->setUp();
+    // The icon waits for a tray host: Qt settles how to show it once per process, and at login the panel often
+    // comes up after Velto.
+    m_trayHostWatch = new SystemTrayHostWatch(this);
+    connect(m_trayHostWatch, &SystemTrayHostWatch::hostAppeared, this, [this] {
+        if (m_statusItem && m_statusItem->setUp())
+            scheduleStatusItemUpdate();
+    });
     // Without any display the start-up has already said there is no tray icon.
-    if (!m_hasTrayHost && QGuiApplication::platformName() != u"offscreen"_s)
-        std::fputs("velto: no system tray found; breaks still run, and `velto settings` opens the settings\n", stderr);
+    connect(m_trayHostWatch, &SystemTrayHostWatch::noHostAtStart, this, [] {
+        if (QGuiApplication::platformName() != u"offscreen"_s)
+            std::fputs("velto: no system tray found yet; breaks still run, `velto settings` opens the settings, "
+                       "and the icon appears when a tray does\n",
+                       stderr);
+    });
     m_statusItem->onMenuNeedsUpdate = [self = QPointer(this)] {
         if (self)
             self->rebuildMenu();
@@ -93,6 +104,10 @@ void AppDelegate::wireComponents()
     if (auto* sleep = m_services.sleepSignals.get()) {
         connect(sleep, &SystemSleepSignals::willSleep, m_breakManager, &BreakManager::handleSleep);
         connect(sleep, &SystemSleepSignals::didWake, m_breakManager, &BreakManager::handleWake);
+        // Displays that power down without an event are noticed on the countdown's own ticks.
+        connect(m_breakManager, &BreakManager::timeRemainingChanged, sleep, &SystemSleepSignals::recheckDisplayPower);
+        connect(m_breakManager, &BreakManager::breakTimeRemainingChanged, sleep,
+                &SystemSleepSignals::recheckDisplayPower);
     }
 
     // The overlay follows on the next turn of the event loop, once the scheduler's state has settled.
@@ -262,7 +277,8 @@ void AppDelegate::updateStatusItem()
     const double total = !onBreak                                                ? config.workInterval
                          : m_breakManager->currentBreakType() == BreakType::Long ? config.longBreakDuration
                                                                                  : config.shortBreakDuration;
-    m_statusItem->update(presentation, makeTrayIconFace(presentation, state, remaining, total));
+    m_statusItem->update(makeTrayIconFace(presentation, state, remaining, total),
+                         makeTrayAccessibleTexts(presentation, remaining));
 }
 
 void AppDelegate::rebuildMenu()

@@ -21,6 +21,7 @@ class SettingsWindows;
 class SettingsManager;
 class StandardUpdaterController;
 class StatusItem;
+class SystemTrayHostWatch;
 class UpdateAvailabilityModel;
 
 // The composition root: builds every long-lived component in order, hands each its collaborators, connects
@@ -94,8 +95,8 @@ private:
     StandardUpdaterController* m_updaterController = nullptr;
     std::unique_ptr<SettingsWindows> m_settingsWindows;
     std::unique_ptr<BreakOverlay> m_breakOverlay;
+    QPointer<SystemTrayHostWatch> m_trayHostWatch;
     bool m_statusItemUpdateQueued = false;
-    bool m_hasTrayHost = false;
     std::optional<bool> m_appliedEnabled;
 };
 

@@ -21,8 +21,10 @@
 
 #include <QAction>
 #include <QDBusMessage>
+#include <QDir>
 #include <QQuickWindow>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -113,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(off.breaks().pauseReason(), PauseReason::appDisabled());
         QVERIFY(!off.delegate->activityDetector()->isMonitoring());
         QCOMPARE(off.delegate->menuBarPresentation().statusText, u"Breaks disabled"_s);
-        QCOMPARE(off.delegate->statusItem()->toolTip(), u"Velto\nBreaks disabled"_s);
+        QCOMPARE(off.delegate->statusItem()->toolTip(), u"Velto, Breaks disabled\nNo active timer"_s);
         ControlStatus status = off.delegate->controlStatus();
         QCOMPARE(status.statusLine, u"Breaks disabled"_s);
         QCOMPARE(status.timeText, u"\u2014"_s);
@@ -136,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(on.breaks().timeRemaining(), on.settings().breakConfiguration().workInterval);
         QVERIFY(on.delegate->activityDetector()->isMonitoring());
         QCOMPARE(on.breaks().activityDetector(), static_cast<ActivityDetecting*>(on.delegate->activityDetector()));
-        QCOMPARE(on.delegate->statusItem()->toolTip(), u"Velto \u00B7 20 min left\nUntil next break"_s);
+        QCOMPARE(on.delegate->statusItem()->toolTip(), u"Velto, Until next break\n20 min remaining"_s);
         on.delegate->takeBreakNow();
         status = on.delegate->controlStatus();
         QCOMPARE(status.statusLine, u"00:20  Break in progress"_s);
@@ -327,11 +329,11 @@ private Q_SLOTS:
         turnEventLoop();
         shell.breaks().workTick();
         // Not yet: the refresh reads the scheduler once its fields have settled.
-        QCOMPARE(item->toolTip(), u"Velto \u00B7 20 min left\nUntil next break"_s);
+        QCOMPARE(item->toolTip(), u"Velto, Until next break\n20 min remaining"_s);
         shell.breaks().pause();
-        QCOMPARE(item->toolTip(), u"Velto \u00B7 20 min left\nUntil next break"_s);
+        QCOMPARE(item->toolTip(), u"Velto, Until next break\n20 min remaining"_s);
         turnEventLoop();
-        QCOMPARE(item->toolTip(), u"Velto\nPaused"_s);
+        QCOMPARE(item->toolTip(), u"Velto, Paused\n20 min remaining"_s);
         shell.breaks().resume();
         turnEventLoop();
         const int redraws = item->iconRedraws();
@@ -341,18 +343,18 @@ private Q_SLOTS:
             turnEventLoop();
         }
         QCOMPARE(item->iconRedraws(), redraws);
-        QCOMPARE(item->toolTip(), u"Velto \u00B7 20 min left\nUntil next break"_s);
+        QCOMPARE(item->toolTip(), u"Velto, Until next break\n20 min remaining"_s);
         for (int i = 0; i < 51; ++i)
             shell.breaks().workTick();
         turnEventLoop();
-        QCOMPARE(item->toolTip(), u"Velto \u00B7 19 min left\nUntil next break"_s);
+        QCOMPARE(item->toolTip(), u"Velto, Until next break\n19 min remaining"_s);
         QCOMPARE(item->iconRedraws(), redraws + 1);
 
-        // Hiding the timer draws the plain icon once, and the title goes.
+        // Hiding the timer draws the plain icon once; the spoken time stays.
         shell.settings().setShowTimerInMenuBar(false);
         turnEventLoop();
         QCOMPARE(item->iconRedraws(), redraws + 2);
-        QCOMPARE(item->toolTip(), u"Velto\nUntil next break"_s);
+        QCOMPARE(item->toolTip(), u"Velto, Until next break\n19 min remaining"_s);
     }
 
     void theCardComesBeforeTheBreakAndItsButtonsReachTheScheduler()
@@ -435,6 +437,23 @@ private Q_SLOTS:
         }
         QVERIFY(!MenuSymbols::isKnown(u"no.such.symbol"_s));
         QVERIFY(!MenuSymbols::icon(u"no.such.symbol"_s, Qt::black).pixmap(16).isNull());
+
+        // From the desktop's theme, the symbolic variant where it has one.
+        QTemporaryDir themes;
+        const QString theme = themes.filePath(u"t"_s);
+        QVERIFY(QDir().mkpath(theme + u"/scalable"_s));
+        QFile index(theme + u"/index.theme"_s);
+        QVERIFY(index.open(QIODevice::WriteOnly));
+        index.write("[Icon Theme]\nName=t\nDirectories=scalable\n[scalable]\nSize=16\nType=Scalable\n");
+        index.close();
+        for (const QString& file :
+             {u"media-playback-pause"_s, u"media-playback-pause-symbolic"_s, u"media-playback-start"_s})
+            QVERIFY(QFile::copy(u":/velto/symbols/timer.svg"_s, theme + u"/scalable/"_s + file + u".svg"_s));
+        QIcon::setThemeSearchPaths({themes.path()});
+        QIcon::setThemeName(u"t"_s);
+        QCOMPARE(MenuSymbols::icon(u"pause.fill"_s, Qt::black).name(), u"media-playback-pause-symbolic"_s);
+        QCOMPARE(MenuSymbols::icon(u"play.fill"_s, Qt::black).name(), u"media-playback-start"_s);
+        QIcon::setThemeName({});
     }
 
     void smartPauseChangesReachTheDetectorWithoutResettingTheCountdown()
@@ -474,15 +493,23 @@ private Q_SLOTS:
                    false);
         QTRY_VERIFY(shell.breaks().sleepingSources().empty());
 
-        auto session = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"fake-screensaver"_s);
+        // A locked screen goes on counting; displays that power down freeze the countdown.
+        auto session = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"fake-desktop"_s);
         emitSignal(session, u"/org/gnome/ScreenSaver"_s, u"org.gnome.ScreenSaver"_s, u"ActiveChanged"_s, true);
+        auto powerSave = [&](int mode) {
+            QDBusMessage message = QDBusMessage::createSignal(
+                u"/org/gnome/Mutter/DisplayConfig"_s, u"org.freedesktop.DBus.Properties"_s, u"PropertiesChanged"_s);
+            message << u"org.gnome.Mutter.DisplayConfig"_s << QVariantMap{{u"PowerSaveMode"_s, mode}} << QStringList{};
+            QVERIFY(session.send(message));
+        };
+        powerSave(3);
         QTRY_VERIFY(shell.breaks().sleepingSources().count(SleepSource::Display));
-        emitSignal(session, u"/org/gnome/ScreenSaver"_s, u"org.gnome.ScreenSaver"_s, u"ActiveChanged"_s, false);
-        QTRY_VERIFY(shell.breaks().sleepingSources().empty());
         QCOMPARE(shell.breaks().timeRemaining(), remaining);
+        powerSave(0);
+        QTRY_VERIFY(shell.breaks().sleepingSources().empty());
         QVERIFY(shell.breaks().isWorkTimerActive());
         QDBusConnection::disconnectFromBus(u"fake-logind"_s);
-        QDBusConnection::disconnectFromBus(u"fake-screensaver"_s);
+        QDBusConnection::disconnectFromBus(u"fake-desktop"_s);
     }
 
 private:

@@ -1,6 +1,6 @@
 // The tray icon as a desktop's tray host sees it: Qt exports it as a StatusNotifierItem with its menu over
-// the dbusmenu protocol once a StatusNotifierWatcher with a host is on the bus. The test owns the watcher on
-// its private session bus, reads the menu back, opens it and clicks items, as a panel would.
+// the dbusmenu protocol once a StatusNotifierWatcher with a host is on the bus, however late. The test owns the watcher
+// on its private session bus, reads the menu back, opens it and clicks items, as a panel would.
 #include "AppDelegate.h"
 #include "FakeDetectionProviders.h"
 #include "FakeLaunchAtLogin.h"
@@ -8,6 +8,7 @@
 #include "FakeStatusNotifierWatcher.h"
 #include "InMemoryUserDefaults.h"
 #include "scheduling/BreakManager.h"
+#include "tray/StatusItem.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -89,7 +90,6 @@ private Q_SLOTS:
         m_hostSide = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"tray-host"_s);
         QVERIFY(m_hostSide->registerObject(u"/StatusNotifierWatcher"_s, &m_watcher,
                                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties));
-        QVERIFY(m_hostSide->registerService(watcherName));
     }
 
     void theTrayHostReadsAndDrivesTheMenu()
@@ -103,6 +103,10 @@ private Q_SLOTS:
         delegate.applicationDidFinishLaunching();
         BreakManager& breaks = *delegate.breakManager();
 
+        // Velto starts before the panel, as at login: the icon comes when the tray host does.
+        QTest::qWait(200);
+        QVERIFY(!delegate.statusItem()->trayIcon());
+        QVERIFY(m_hostSide->registerService(watcherName));
         QTRY_COMPARE(m_watcher.items().size(), 1);
         const QString item = m_watcher.items().first();
         const Peer properties{*m_hostSide, item.section(u'/', 0, 0), u"/StatusNotifierItem"_s,

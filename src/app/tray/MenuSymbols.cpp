@@ -61,9 +61,11 @@ bool MenuSymbols::isKnown(const QString& symbolName)
 QIcon MenuSymbols::icon(const QString& symbolName, const QColor& tint)
 {
     const QString name = isKnown(symbolName) ? symbolName : u"timer"_s;
-    const QString themeName = themeNames().value(name);
-    if (!themeName.isEmpty() && QIcon::hasThemeIcon(themeName))
-        return QIcon::fromTheme(themeName);
+    // A symbolic icon first: a panel with a dark menu recolours it, as it does the desktop's own.
+    if (const QString themeName = themeNames().value(name); !themeName.isEmpty())
+        for (const QString& candidate : {QString(themeName + u"-symbolic"_s), themeName})
+            if (QIcon::hasThemeIcon(candidate))
+                return QIcon::fromTheme(candidate);
     return tinted(resourcePath(name), tint);
 }
 

@@ -29,37 +29,33 @@ bool StatusItem::setUp()
         return true;
     m_trayIcon = std::make_unique<QSystemTrayIcon>();
     m_trayIcon->setContextMenu(&m_menu);
-    m_trayIcon->setToolTip(u"Velto"_s);
     // A tray icon is the whole interface, so a plain click opens the menu as well.
     connect(m_trayIcon.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger && !m_menu.isVisible())
             m_menu.popup(QCursor::pos());
     });
-    m_face.reset();
-    m_trayIcon->setIcon(TrayIconPainter::icon({}));
+    // What was computed before a tray existed is shown as it stands.
+    m_trayIcon->setToolTip(m_toolTip.isEmpty() ? u"Velto"_s : m_toolTip);
+    m_trayIcon->setIcon(TrayIconPainter::icon(m_face.value_or(TrayIconFace{})));
     m_trayIcon->show();
     return QSystemTrayIcon::isSystemTrayAvailable();
 }
 
-void StatusItem::update(const MenuBarPresentation& presentation, const TrayIconFace& face)
+void StatusItem::update(const TrayIconFace& face, const TrayAccessibleTexts& texts)
 {
-    if (!m_trayIcon)
-        return;
     if (m_face != face) {
         m_face = face;
         ++m_iconRedraws;
-        m_trayIcon->setIcon(TrayIconPainter::icon(face));
+        if (m_trayIcon)
+            m_trayIcon->setIcon(TrayIconPainter::icon(face));
     }
-    // Trays have no separate accessible texts, so the tooltip names Velto and says what the menu's first line
-    // says. It counts whole minutes like the icon: a text that changed every second would wake the tray host
-    // (and Velto's bus thread) every second for a tooltip hardly anyone is looking at.
-    QString toolTip = u"Velto"_s;
-    if (face.showsTimer)
-        toolTip += u" \u00B7 "_s + face.label + (face.label.endsWith(u'h') ? u""_s : u" min"_s) + u" left"_s;
-    toolTip += u"\n"_s + presentation.statusText;
+    // Tray hosts take no accessible texts of their own: screen readers speak the item's tooltip, so it carries
+    // the label and the value, in whole minutes.
+    const QString toolTip = texts.label + u"\n"_s + texts.value;
     if (toolTip != m_toolTip) {
         m_toolTip = toolTip;
-        m_trayIcon->setToolTip(toolTip);
+        if (m_trayIcon)
+            m_trayIcon->setToolTip(toolTip);
     }
 }
 

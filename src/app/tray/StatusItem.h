@@ -21,10 +21,10 @@ public:
     explicit StatusItem(QObject* parent = nullptr);
     ~StatusItem() override;
 
-    // Shows the icon in the tray. False when the session has no tray host; the menu still exists.
+    // Shows the icon in the tray, once a tray host exists. Until then the picture and texts are kept for it.
     bool setUp();
 
-    void update(const MenuBarPresentation& presentation, const TrayIconFace& face);
+    void update(const TrayIconFace& face, const TrayAccessibleTexts& texts);
     void rebuildMenu(const QList<StatusMenuItem>& items);
 
     [[nodiscard]] QMenu* menu() { return &m_menu; }

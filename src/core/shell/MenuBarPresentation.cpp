@@ -120,6 +120,23 @@ TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakStat
     return face;
 }
 
+TrayAccessibleTexts makeTrayAccessibleTexts(const MenuBarPresentation& presentation, double remaining)
+{
+    TrayAccessibleTexts texts{presentation.accessibilityLabel(), u"No active timer"_s};
+    if (presentation.timeText == MenuBarPresentation::noTime || !std::isfinite(remaining))
+        return texts;
+    const qint64 minutes = (wholeSeconds(std::ceil(std::max(0.0, remaining))) + 59) / 60;
+    QString left;
+    if (minutes < 60)
+        left = QString::number(minutes) + u" min"_s;
+    else if (minutes % 60 == 0)
+        left = QString::number(minutes / 60) + u" h"_s;
+    else
+        left = QString::number(minutes / 60) + u" h "_s + QString::number(minutes % 60) + u" min"_s;
+    texts.value = left + u" remaining"_s;
+    return texts;
+}
+
 QList<StatusMenuItem> makeStatusMenuItems(const MenuBarPresentation& p, const StatusMenuInputs& in)
 {
     const StatusMenuItem separator{true, {}, {}, MenuAction::None, false, {}};

@@ -122,8 +122,17 @@ struct TrayIconFace {
 
 // The icon shows the countdown exactly when the title would: working or on a break, with the timer shown.
 // remaining and total are the running countdown and its full length in seconds.
-[[nodiscard]] TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakState state,
-                                            double remaining, double total);
+[[nodiscard]] TrayIconFace makeTrayIconFace(const MenuBarPresentation& presentation, BreakState state, double remaining,
+                                            double total);
+
+// What the tray item says to assistive technology: the presentation's accessibility label and value, the
+// value in whole minutes rounded up, so the texts change at most once a minute and never wake the tray host
+// (which reads them from Velto over the bus) every second.
+struct TrayAccessibleTexts {
+    QString label;
+    QString value;
+};
+[[nodiscard]] TrayAccessibleTexts makeTrayAccessibleTexts(const MenuBarPresentation& presentation, double remaining);
 
 // The menu as it opens: built from a fresh presentation each time, never updated while it stays open.
 [[nodiscard]] QList<StatusMenuItem> makeStatusMenuItems(const MenuBarPresentation& presentation,

@@ -2,9 +2,13 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QGuiApplication>
 
-#include <functional>
+#include <xcb/dpms.h>
 #include <xcb/screensaver.h>
 #include <xcb/xcb.h>
 
@@ -12,34 +16,41 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 
-SystemSleepSignals::SystemSleepSignals(QObject* parent)
-    : QObject(parent)
-{
-    QDBusConnection system = QDBusConnection::systemBus();
-    if (system.isConnected())
-        m_system = system.connect(u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s,
-                                  u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s, this,
-                                  SLOT(prepareForSleep(bool)));
+namespace {
 
-    QDBusConnection session = QDBusConnection::sessionBus();
-    if (session.isConnected()) {
-        // Desktops publish the same signal under different paths and interfaces; any sender counts.
-        const struct {
-            QString path;
-            QString interface;
-        } sources[] = {
-            {u"/org/freedesktop/ScreenSaver"_s, u"org.freedesktop.ScreenSaver"_s},
-            {u"/ScreenSaver"_s, u"org.freedesktop.ScreenSaver"_s},
-            {u"/org/gnome/ScreenSaver"_s, u"org.gnome.ScreenSaver"_s},
-        };
-        for (const auto& source : sources)
-            m_display |= session.connect({}, source.path, source.interface, u"ActiveChanged"_s, this,
-                                         SLOT(screenSaverActiveChanged(bool)));
-    }
-    watchX11ScreenSaver();
+const QString mutterService = u"org.gnome.Mutter.DisplayConfig"_s;
+const QString mutterPath = u"/org/gnome/Mutter/DisplayConfig"_s;
+const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
+const QString powerSaveMode = u"PowerSaveMode"_s;
+
+xcb_connection_t* qtX11Connection()
+{
+    auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
+    if (!app || QGuiApplication::platformName() != u"xcb"_s)
+        return nullptr;
+    auto* x11 = app->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
 }
 
-namespace {
+// The DPMS level through Qt's own X connection: one short round trip, made only while the screen saver is
+// on, when nothing else is drawn or asked of the server.
+SystemSleepSignals::DisplayPowerProbe x11DpmsProbe()
+{
+    xcb_connection_t* connection = qtX11Connection();
+    if (!connection)
+        return {};
+    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &xcb_dpms_id);
+    if (!extension || !extension->present)
+        return {};
+    return [connection]() -> std::optional<bool> {
+        xcb_dpms_info_reply_t* reply = xcb_dpms_info_reply(connection, xcb_dpms_info(connection), nullptr);
+        if (!reply)
+            return std::nullopt;
+        const bool off = reply->state && reply->power_level != XCB_DPMS_DPMS_MODE_ON;
+        free(reply);
+        return off;
+    };
+}
 
 // Hears the X server announce its screen saver on and off, through Qt's own X connection.
 class ScreenSaverNotifyFilter final : public QAbstractNativeEventFilter {
@@ -71,32 +82,101 @@ private:
 
 } // namespace
 
+SystemSleepSignals::SystemSleepSignals(DisplayPowerProbe x11DisplaysOff, QObject* parent)
+    : QObject(parent)
+    , m_x11DisplaysOff(std::move(x11DisplaysOff))
+{
+    QDBusConnection system = QDBusConnection::systemBus();
+    if (system.isConnected())
+        m_system = system.connect(u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s,
+                                  u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s, this,
+                                  SLOT(prepareForSleep(bool)));
+    watchMutter();
+    watchX11ScreenSaver();
+}
+
 SystemSleepSignals::~SystemSleepSignals()
 {
     if (m_x11Filter && QCoreApplication::instance())
         QCoreApplication::instance()->removeNativeEventFilter(m_x11Filter.get());
 }
 
+void SystemSleepSignals::watchMutter()
+{
+    QDBusConnection session = QDBusConnection::sessionBus();
+    if (!session.isConnected())
+        return;
+    // Any sender: the name may be taken after Velto starts, and only Mutter serves this path.
+    m_mutter = session.connect({}, mutterPath, propertiesInterface, u"PropertiesChanged"_s, {mutterService}, {}, this,
+                               SLOT(displayConfigChanged(QDBusMessage)));
+    if (!m_mutter)
+        return;
+    QDBusMessage get = QDBusMessage::createMethodCall(mutterService, mutterPath, propertiesInterface, u"Get"_s);
+    get << mutterService << powerSaveMode;
+    get.setAutoStartService(false);
+    auto* watcher = new QDBusPendingCallWatcher(session.asyncCall(get), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
+        const QDBusPendingReply<QDBusVariant> reply = *call;
+        // Elsewhere than GNOME the name is missing: the displays count as on.
+        if (reply.isValid())
+            setMutterDisplaysOff(reply.value().variant().toInt());
+        call->deleteLater();
+    });
+}
+
+void SystemSleepSignals::displayConfigChanged(const QDBusMessage& message)
+{
+    const QList<QVariant> arguments = message.arguments();
+    if (arguments.size() < 2 || arguments.at(0).toString() != mutterService)
+        return;
+    const QVariantMap changed = qdbus_cast<QVariantMap>(arguments.at(1));
+    const auto mode = changed.constFind(powerSaveMode);
+    if (mode != changed.constEnd())
+        setMutterDisplaysOff(mode->toInt());
+}
+
+void SystemSleepSignals::setMutterDisplaysOff(int mode)
+{
+    // 0 on, 1 standby, 2 suspend, 3 off; -1 (unknown) counts as on.
+    m_mutterOff = mode >= 1 && mode <= 3;
+    updateDisplaySleep();
+}
+
 void SystemSleepSignals::watchX11ScreenSaver()
 {
-    auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
-    if (!app || QGuiApplication::platformName() != u"xcb"_s)
-        return;
-    auto* x11 = app->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
+    xcb_connection_t* connection = qtX11Connection();
     if (!connection)
         return;
+    if (!m_x11DisplaysOff)
+        m_x11DisplaysOff = x11DpmsProbe();
     const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &xcb_screensaver_id);
-    if (!extension || !extension->present)
+    if (!m_x11DisplaysOff || !extension || !extension->present) {
+        m_x11DisplaysOff = {};
         return;
+    }
     for (auto it = xcb_setup_roots_iterator(xcb_get_setup(connection)); it.rem; xcb_screen_next(&it))
         xcb_screensaver_select_input(connection, it.data->root, XCB_SCREENSAVER_EVENT_NOTIFY_MASK);
     xcb_flush(connection);
     m_x11Filter =
         std::make_unique<ScreenSaverNotifyFilter>(static_cast<uint8_t>(extension->first_event + XCB_SCREENSAVER_NOTIFY),
-                                                  [this](bool asleep) { displaySleepChanged(asleep); });
-    app->installNativeEventFilter(m_x11Filter.get());
-    m_display = true;
+                                                  [this](bool on) { x11ScreenSaverChanged(on); });
+    QCoreApplication::instance()->installNativeEventFilter(m_x11Filter.get());
+}
+
+void SystemSleepSignals::x11ScreenSaverChanged(bool on)
+{
+    m_x11SaverOn = on;
+    // Waking always turns the saver off; a saver that merely blanks or locks leaves DPMS on.
+    m_x11Off = on && m_x11DisplaysOff().value_or(false);
+    updateDisplaySleep();
+}
+
+void SystemSleepSignals::recheckDisplayPower()
+{
+    if (!m_x11SaverOn || !m_x11DisplaysOff)
+        return;
+    m_x11Off = m_x11DisplaysOff().value_or(false);
+    updateDisplaySleep();
 }
 
 void SystemSleepSignals::prepareForSleep(bool start)
@@ -107,18 +187,14 @@ void SystemSleepSignals::prepareForSleep(bool start)
         Q_EMIT didWake(SleepSource::System);
 }
 
-void SystemSleepSignals::screenSaverActiveChanged(bool active)
+void SystemSleepSignals::updateDisplaySleep()
 {
-    displaySleepChanged(active);
-}
-
-void SystemSleepSignals::displaySleepChanged(bool active)
-{
-    // Several sources may report one change; only transitions count.
-    if (active == m_displayAsleep)
+    // GNOME on X11 reports through both sources; only transitions of the whole count.
+    const bool asleep = m_mutterOff || m_x11Off;
+    if (asleep == m_displayAsleep)
         return;
-    m_displayAsleep = active;
-    if (active)
+    m_displayAsleep = asleep;
+    if (asleep)
         Q_EMIT willSleep(SleepSource::Display);
     else
         Q_EMIT didWake(SleepSource::Display);

@@ -158,10 +158,20 @@ private Q_SLOTS:
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 7200, 7200).label, u"2h"_s);
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 500, 0).ringSteps, 0);
 
+        // Spoken texts round the same way, and say the time even when the icon does not show it.
+        const struct {
+            double remaining;
+            const char16_t* value;
+        } spoken[] = {{1499.4, u"25 min remaining"}, {1440.5, u"25 min remaining"},  {0, u"0 min remaining"},
+                      {7200, u"2 h remaining"},      {7201, u"2 h 1 min remaining"}, {qInf(), u"No active timer"}};
+        for (const auto& row : spoken)
+            QCOMPARE(makeTrayAccessibleTexts(p, row.remaining).value, QString::fromUtf16(row.value));
+
         // No title, no timer: the plain icon, whatever the countdown.
         in.showTimerInMenuBar = false;
         p = makeMenuBarPresentation(in);
         QCOMPARE(makeTrayIconFace(p, BreakState::Working, 1499.4, 1500), TrayIconFace{});
+        QCOMPARE(makeTrayAccessibleTexts(p, 1499.4).value, u"25 min remaining"_s);
     }
 
     void menuItemsForWorkingDisabledAndHeld()
