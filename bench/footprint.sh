@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Velto's footprint as a desktop user would see it: the real binary on a private Xvfb display and session bus,
-# with a stand-in tray host. After 30 s of settling it samples 60 s of idle running and prints PSS (MB, from
-# /proc smaps_rollup), CPU (% of one core) and wake-ups per second: the voluntary context switches of all its
-# threads, also listed per thread. Involuntary switches are preemptions by other processes, not wake-ups, so
-# they are left out. Then it shows a break, a pre-break card and the settings window, closes them, and prints
-# PSS again.
+# with a stand-in tray host. After 30 s of settling it samples 60 s of idle running and prints memory (MB, from
+# /proc smaps_rollup), CPU (% of one core) and wake-ups per second: the voluntary plus involuntary context
+# switches of all its threads, as other break reminders are measured, also listed per thread. Then it shows a
+# break, a pre-break card and the settings window, closes them, and prints memory again.
+# Memory: RSS, comparable with any other application's figure, and Private_Dirty, what Velto alone costs
+# (pages no other process shares and the kernel cannot drop without swapping); PSS for reference.
 # Usage: bench/footprint.sh [BUILD_DIR]    (takes about three and a half minutes)
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -45,20 +46,18 @@ sleep 0.5
 "$velto" >/dev/null 2>&1 &
 app=$!
 
-# PSS shares each library page among the processes that map it, so it moves with whatever else runs Qt on
-# the machine; the anonymous part and the private (unshared) total beside it do not.
-pss_mb() {
-    awk '/^Pss:/ {p = $2} /^Pss_Anon:/ {a = $2} /^Private_(Clean|Dirty):/ {u += $2}
-         END {printf "%.1f (anon %.1f, private %.1f)", p / 1024, a / 1024, u / 1024}' "/proc/$app/smaps_rollup"
+memory_mb() {
+    awk '/^Rss:/ {r = $2} /^Private_Dirty:/ {d = $2} /^Pss:/ {p = $2}
+         END {printf "RSS %.1f  Private_Dirty %.1f  (PSS %.1f)", r / 1024, d / 1024, p / 1024}' "/proc/$app/smaps_rollup"
 }
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
-# One line per thread: "tid voluntary-switches name", spaces in the name made underscores.
+# One line per thread: "tid context-switches name", spaces in the name made underscores.
 thread_switches() {
     local status tid name n
     for status in /proc/"$app"/task/*/status; do
         tid=${status%/status}; tid=${tid##*/}
         name=$(sed -n 's/^Name:[[:space:]]*//p' "$status" 2>/dev/null) || continue
-        n=$(awk '/^voluntary_ctxt_switches/ {print $2}' "$status" 2>/dev/null) || continue
+        n=$(awk '/ctxt_switches/ {n += $2} END {print n}' "$status" 2>/dev/null) || continue
         [ -n "$n" ] && printf '%s %s %s\n' "$tid" "$n" "${name// /_}"
     done
 }
@@ -66,19 +65,19 @@ thread_switches() {
 sleep 30
 kill -0 "$app" || { echo "velto did not keep running" >&2; exit 1; }
 hz=$(getconf CLK_TCK)
-# sample LABEL SECONDS: PSS at the end, CPU and wake-ups over the span, and wake-ups per thread.
+# sample LABEL SECONDS: memory at the end, CPU and wake-ups over the span, and wake-ups per thread.
 sample() {
     local t0 t1 start end
     t0=$(cpu_ticks); thread_switches >"$home/switches0"; start=$(date +%s.%N)
     sleep "$2"
     t1=$(cpu_ticks); thread_switches >"$home/switches1"; end=$(date +%s.%N)
-    awk -v label="$1" -v pss="$(pss_mb)" -v t="$((t1 - t0))" -v hz="$hz" -v a="$start" -v b="$end" '
+    awk -v label="$1" -v memory="$(memory_mb)" -v t="$((t1 - t0))" -v hz="$hz" -v a="$start" -v b="$end" '
         NR == FNR { before[$1] = $2; next }
         # A thread started during the span counts from zero; one that ended is missing from both sums alike.
         { d = $2 - before[$1]; total += d; line[++n] = sprintf("    %-32s %6.2f /s", $3 " (" $1 ")", d / (b - a)) }
         END {
             e = b - a
-            printf "%s:  PSS %s MB   CPU %.2f %%   wake-ups %.2f /s\n", label, pss, 100 * t / hz / e, total / e
+            printf "%s:  %s MB   CPU %.2f %%   wake-ups %.2f /s\n", label, memory, 100 * t / hz / e, total / e
             for (i = 1; i <= n; i++) print line[i]
         }' "$home/switches0" "$home/switches1"
 }
@@ -98,6 +97,6 @@ if call openSettings; then
     sleep 2
 fi
 sleep 5
-printf 'after a break, a card and the settings window: PSS %s MB\n' "$(pss_mb)"
+printf 'after a break, a card and the settings window: %s MB\n' "$(memory_mb)"
 # Windows closed must not leave timers behind: the idle figures again.
 sample "idle, after the windows" 30

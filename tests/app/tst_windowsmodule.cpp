@@ -6,12 +6,8 @@
 #include "windows/LazyWindows.h"
 #include "windows/WindowsModuleLoader.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QTest>
-#include <QWindow>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace velto;
@@ -47,30 +43,6 @@ public:
     FakeNotificationPresenter* presenter = nullptr;
     FakeSoundPlayer* player = nullptr;
 };
-
-// Resident kilobytes of the executable code of the mapped files whose path contains name.
-qint64 residentCodeKb(const QString& name)
-{
-    QFile smaps(u"/proc/self/smaps"_s);
-    if (!smaps.open(QIODevice::ReadOnly))
-        return -1;
-    qint64 total = 0;
-    bool counting = false;
-    for (const QByteArray& line : smaps.readAll().split('\n')) {
-        const QList<QByteArray> fields = line.simplified().split(' ');
-        if (fields.size() >= 5 && fields.first().contains('-') && !line.endsWith(':'))
-            counting = fields.size() >= 6 && fields.at(1) == "r-xp" && fields.at(5).contains(name.toUtf8());
-        else if (counting && fields.size() >= 2 && fields.first() == "Rss:")
-            total += fields.at(1).toLongLong();
-    }
-    return total;
-}
-
-bool anyWindowVisible()
-{
-    const QWindowList windows = QGuiApplication::topLevelWindows();
-    return std::any_of(windows.cbegin(), windows.cend(), [](const QWindow* w) { return w->isVisible(); });
-}
 
 } // namespace
 
@@ -131,25 +103,6 @@ private Q_SLOTS:
         QCOMPARE(said.size(), 2);
         for (const QString& text : said)
             QVERIFY2(text.contains(u"velto: cannot load the windows ("_s), qPrintable(text));
-    }
-
-    void betweenWindowsTheCodeTheyBroughtIsUnmappedAndComesBack()
-    {
-        VeltoWindows* loaded = loadWindowsModule(QStringLiteral(VELTO_WINDOWS_MODULE));
-        QVERIFY(loaded);
-        auto card = loaded->makeNotificationPresenter();
-        auto model = std::make_shared<PreBreakNotificationDisplayModel>(BreakType::Short, 60.0);
-        for (int round = 0; round < 2; ++round) {
-            card->show(model, {}, {}, {}, {});
-            QTRY_VERIFY(anyWindowVisible());
-            QVERIFY(residentCodeKb(u"libQt6Quick.so"_s) > 256);
-            QVERIFY(residentCodeKb(u"velto-windows.so"_s) > 0);
-            card->hide();
-            QTRY_VERIFY(!anyWindowVisible());
-            QTRY_VERIFY(residentCodeKb(u"libQt6Quick.so"_s) < 64);
-        }
-        // Velto's own code, loaded before the windows, stays.
-        QVERIFY(residentCodeKb(u"libQt6Core.so"_s) > 256);
     }
 };
 
