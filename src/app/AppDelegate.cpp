@@ -455,6 +455,23 @@ void AppDelegate::quit()
         QCoreApplication::quit();
 }
 
+void AppDelegate::checkForUpdates(std::function<void(bool, const QString&)> done)
+{
+    Updater* updater = m_updaterController ? m_updaterController->updater() : nullptr;
+    if (!updater) {
+        done(false, u"this Velto was built without update checks"_s);
+        return;
+    }
+    // The same check as the About pane's button, told on the command line instead of in a window. A check
+    // already running answers this request too.
+    auto finished = std::make_shared<QMetaObject::Connection>();
+    *finished = connect(updater, &Updater::checkFinished, this, [updater, finished, done] {
+        QObject::disconnect(*finished);
+        done(!updater->lastCheckFailed(), updater->lastOutcomeText());
+    });
+    updater->checkForUpdatesInBackground();
+}
+
 void AppDelegate::triggerTestPreBreakNotification()
 {
     m_inAppNotificationManager->showPreBreakNotification(BreakType::Short, 45, 8);

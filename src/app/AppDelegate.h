@@ -50,6 +50,7 @@ public:
     Q_INVOKABLE void openSettingsFromMenu();
     Q_INVOKABLE void quitFromMenu();
     Q_INVOKABLE void triggerTestPreBreakNotification() override;
+    void checkForUpdates(std::function<void(bool completed, const QString& outcome)> done) override;
     void perform(MenuAction action);
 
     // What the command line reaches: the same operations as the menu and the card.

@@ -180,6 +180,8 @@ void Updater::fail(int code, const QString& description)
     releaseReply();
     m_body.clear();
     const UpdateError error = makeError(code, description);
+    m_lastOutcomeText = description;
+    m_lastCheckFailed = true;
     if (m_delegate)
         m_delegate->didNotFindUpdate(error);
     if (m_userInitiated && m_userDriver)
@@ -225,6 +227,11 @@ void Updater::reportNotFound(NoUpdateFoundReason reason)
 {
     const UpdateError error = makeError(UpdaterErrors::NoUpdateFound, u"Velto is up to date."_s,
                                         {{UpdaterErrors::noUpdateFoundReasonKey.toString(), int(reason)}});
+    // What the up-to-date window says.
+    m_lastOutcomeText = reason == NoUpdateFoundReason::SystemTooOld
+                            ? u"A newer version of Velto exists but needs a newer system than this one."_s
+                            : u"Velto %1 is the newest version available."_s.arg(m_configuration.hostVersion);
+    m_lastCheckFailed = false;
     if (m_delegate)
         m_delegate->didNotFindUpdate(error);
     if (m_userInitiated && m_userDriver)
@@ -234,6 +241,11 @@ void Updater::reportNotFound(NoUpdateFoundReason reason)
 
 void Updater::offer(const AppcastItem& item)
 {
+    m_lastOutcomeText =
+        u"Velto %1 is available; you have %2."_s.arg(item.displayVersionString(), m_configuration.hostVersion);
+    if (const QUrl page = item.downloadPageUrl(); page.isValid())
+        m_lastOutcomeText += u" Download it from "_s + page.toString();
+    m_lastCheckFailed = false;
     if (m_delegate)
         m_delegate->didFindValidUpdate(item);
     if (m_userInitiated && m_userDriver) {

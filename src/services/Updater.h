@@ -117,6 +117,10 @@ public:
     Q_INVOKABLE void checkForUpdatesInBackground();
 
     [[nodiscard]] bool sessionInProgress() const { return m_reply != nullptr; }
+    // The last finished check in one line, as the About pane's check would tell it, and whether the check
+    // itself failed (no answer, a bad feed) rather than finding nothing newer.
+    [[nodiscard]] QString lastOutcomeText() const { return m_lastOutcomeText; }
+    [[nodiscard]] bool lastCheckFailed() const { return m_lastCheckFailed; }
     [[nodiscard]] QDateTime lastUpdateCheckDate() const;
     [[nodiscard]] QDateTime nextScheduledCheckDate() const { return m_nextScheduledCheck; }
     [[nodiscard]] QString skippedVersion() const;
@@ -151,6 +155,8 @@ private:
     QNetworkAccessManager* m_network = nullptr;
     QPointer<QNetworkReply> m_reply;
     QByteArray m_body;
+    QString m_lastOutcomeText;
+    bool m_lastCheckFailed = false;
     bool m_userInitiated = false;
     bool m_started = false;
     QTimer m_timeoutTimer;

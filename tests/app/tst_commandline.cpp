@@ -110,7 +110,7 @@ private Q_SLOTS:
         const QString usage = CommandLine::usage();
         for (const QString& word :
              {u"status [--json]"_s, u"break [--long]"_s, u"pause [MINUTES]"_s, u"resume"_s, u"skip"_s, u"enable"_s,
-              u"disable"_s, u"settings"_s, u"quit"_s, u"--help"_s, u"--version"_s}) {
+              u"disable"_s, u"settings"_s, u"check-updates"_s, u"quit"_s, u"--help"_s, u"--version"_s}) {
             QVERIFY2(usage.contains(u" "_s + word + u" "_s), qPrintable(word));
             // Every command the usage shows parses as something other than a mistake.
             const QString first = word.section(u' ', 0, 0);

@@ -101,6 +101,7 @@ private Q_SLOTS:
         QTest::newRow("enable") << QStringList{u"enable"_s} << QStringList{u"setRemindersEnabled true"_s};
         QTest::newRow("disable") << QStringList{u"disable"_s} << QStringList{u"setRemindersEnabled false"_s};
         QTest::newRow("settings") << QStringList{u"settings"_s} << QStringList{u"openSettings"_s};
+        QTest::newRow("check-updates") << QStringList{u"check-updates"_s} << QStringList{u"checkForUpdates"_s};
         QTest::newRow("status") << QStringList{u"status"_s} << QStringList{};
         // Quit is the one that acts only after it has answered.
         QTest::newRow("quit") << QStringList{u"quit"_s} << QStringList{u"quit"_s};
@@ -204,6 +205,19 @@ private Q_SLOTS:
         QCOMPARE(outcome.exitCode, ExitCode::failure);
         QCOMPARE(outcome.err, u"velto: the settings window cannot be shown in this session\n"_s);
         QCOMPARE(m_target.calls, QStringList{u"openSettings"_s});
+    }
+
+    // The answer comes when the check ends, after the call has returned to the bus.
+    void checkUpdatesPrintsWhatTheCheckFound()
+    {
+        startInstance();
+        for (const bool completes : {true, false}) {
+            m_target.updateCheckCompletes = completes;
+            const Outcome outcome = run({u"check-updates"_s});
+            QCOMPARE(outcome.exitCode, completes ? ExitCode::success : ExitCode::failure);
+            QCOMPARE(completes ? outcome.out : outcome.err,
+                     (completes ? u""_s : u"velto: "_s) + m_target.updateOutcome + u'\n');
+        }
     }
 
     void handOverAsksTheRunningInstanceForItsSettings()

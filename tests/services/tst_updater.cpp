@@ -175,6 +175,8 @@ private Q_SLOTS:
         QCOMPARE(rig.model.availableVersionDisplayString(), u"1.10 Spring"_s);
         QCOMPARE(available.at(0).at(0).toBool(), true);
         QVERIFY(rig.driver->shown.isEmpty());
+        QVERIFY(rig.updater->lastOutcomeText().startsWith(u"Velto 1.10 Spring is available; you have 1.0."_s));
+        QVERIFY(!rig.updater->lastCheckFailed());
 
         QVERIFY(rig.check(true));
         QCOMPARE(rig.driver->shown, QStringList{u"found 1.10 Spring"_s});
@@ -206,6 +208,8 @@ private Q_SLOTS:
             QCOMPARE(rig.delegate.errors.last().code, int(UpdaterErrors::NoUpdateFound));
             QCOMPARE(rig.delegate.lastReason(), reason);
             QVERIFY(!rig.model.updateAvailable());
+            QCOMPARE(rig.updater->lastOutcomeText(), u"Velto %1 is the newest version available."_s.arg(hostVersion));
+            QVERIFY(!rig.updater->lastCheckFailed());
         }
     }
 
@@ -239,6 +243,8 @@ private Q_SLOTS:
         QCOMPARE(rig.delegate.errors.last().code, code);
         QCOMPARE(rig.model.availableVersionDisplayString(), u"1.10 Spring"_s);
         QCOMPARE(willChange.size(), 0);
+        QCOMPARE(rig.updater->lastCheckFailed(), code != int(UpdaterErrors::NoUpdateFound));
+        QVERIFY(!rig.updater->lastOutcomeText().isEmpty());
 
         QCOMPARE(rig.driver->shown.size(), 1);
     }

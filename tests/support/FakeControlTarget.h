@@ -2,6 +2,7 @@
 
 #include "ControlTarget.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 // Answers with a scripted status and writes down every operation it is asked for, with its argument, in order.
@@ -28,4 +29,14 @@ public:
     }
     void quit() override { calls << QStringLiteral("quit"); }
     void triggerTestPreBreakNotification() override { calls << QStringLiteral("triggerTestPreBreakNotification"); }
+    // Answers at once, or on the next turn when asked to, with the scripted outcome.
+    bool updateCheckCompletes = true;
+    QString updateOutcome = QStringLiteral("Velto 1.0 is the newest version available.");
+    void checkForUpdates(std::function<void(bool, const QString&)> done) override
+    {
+        calls << QStringLiteral("checkForUpdates");
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [this, done] { done(updateCheckCompletes, updateOutcome); },
+            Qt::QueuedConnection);
+    }
 };

@@ -12,9 +12,11 @@ using Command = CommandLine::Command;
 const QHash<QString, Command>& commandWords()
 {
     static const QHash<QString, Command> words{
-        {u"status"_s, Command::Status},   {u"break"_s, Command::TakeBreak},   {u"pause"_s, Command::Pause},
-        {u"resume"_s, Command::Resume},   {u"skip"_s, Command::Skip},         {u"enable"_s, Command::Enable},
-        {u"disable"_s, Command::Disable}, {u"settings"_s, Command::Settings}, {u"quit"_s, Command::Quit},
+        {u"status"_s, Command::Status},   {u"break"_s, Command::TakeBreak},
+        {u"pause"_s, Command::Pause},     {u"resume"_s, Command::Resume},
+        {u"skip"_s, Command::Skip},       {u"enable"_s, Command::Enable},
+        {u"disable"_s, Command::Disable}, {u"settings"_s, Command::Settings},
+        {u"quit"_s, Command::Quit},       {u"check-updates"_s, Command::CheckUpdates},
         {u"help"_s, Command::Help},
     };
     return words;
@@ -153,13 +155,15 @@ QString CommandLine::usage()
            u"  enable            Turn reminders on\n"
            u"  disable           Turn reminders off\n"
            u"  settings          Open the settings window\n"
+           u"  check-updates     Check for a newer version and say what was found\n"
            u"  quit              Quit Velto\n"
            u"\n"
            u"Options:\n"
            u"  -h, --help        Show this help\n"
            u"  -v, --version     Show the version\n"
            u"\n"
-           u"Exit status: 0 on success, 1 when Velto is not running or does not answer, 2 for bad arguments.\n"_s;
+           u"Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
+           u"failed), 2 for bad arguments.\n"_s;
 }
 
 } // namespace velto

@@ -29,6 +29,7 @@ struct CommandLine {
         Enable,
         Disable,
         Settings,
+        CheckUpdates,
         Quit,
         Invalid,
     };

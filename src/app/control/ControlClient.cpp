@@ -25,14 +25,14 @@ ControlClient::ControlClient(QDBusConnection bus, int timeoutMs)
     , m_timeoutMs(timeoutMs)
 {}
 
-QDBusMessage ControlClient::call(const QString& method, const QVariantList& arguments)
+QDBusMessage ControlClient::call(const QString& method, const QVariantList& arguments, int timeoutMs)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(ControlBus::serviceName, ControlBus::objectPath,
                                                           ControlBus::interfaceName, method);
     message.setArguments(arguments);
     // Asking a stopped Velto for its status must never start one.
     message.setAutoStartService(false);
-    return m_bus.call(message, QDBus::BlockWithGui, m_timeoutMs);
+    return m_bus.call(message, QDBus::BlockWithGui, timeoutMs > 0 ? timeoutMs : m_timeoutMs);
 }
 
 bool ControlClient::isInstanceRunning()
@@ -110,6 +110,13 @@ int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextSt
             err << u"velto: the settings window cannot be shown in this session"_s << '\n';
             err.flush();
             return ExitCode::failure;
+        }
+        break;
+    case Command::CheckUpdates:
+        reply = call(u"checkForUpdates"_s, {}, std::max(m_timeoutMs, ControlBus::updateCheckTimeoutMs));
+        if (reply.type() == QDBusMessage::ReplyMessage) {
+            out << QDBusReply<QString>(reply).value() << '\n';
+            out.flush();
         }
         break;
     case Command::Quit:

@@ -29,7 +29,8 @@ public:
     [[nodiscard]] static QString statusJson(const ControlStatus& status);
 
 private:
-    [[nodiscard]] QDBusMessage call(const QString& method, const QVariantList& arguments = {});
+    // timeoutMs 0: the client's own time-out.
+    [[nodiscard]] QDBusMessage call(const QString& method, const QVariantList& arguments = {}, int timeoutMs = 0);
     // Prints the one-line reason a call failed and returns the exit status for it.
     [[nodiscard]] int reportFailure(const QDBusMessage& reply, QTextStream& err);
     [[nodiscard]] bool isInstanceRunning();

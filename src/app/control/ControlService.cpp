@@ -147,6 +147,19 @@ void ControlService::quit()
         Qt::QueuedConnection);
 }
 
+QString ControlService::checkForUpdates()
+{
+    ControlTarget* target = readyTarget();
+    if (!target || !calledFromDBus())
+        return {};
+    setDelayedReply(true);
+    target->checkForUpdates([bus = connection(), call = message()](bool completed, const QString& outcome) {
+        bus.send(completed ? call.createReply(outcome)
+                           : call.createErrorReply(ControlBus::updateCheckFailedError, outcome));
+    });
+    return {};
+}
+
 void ControlService::triggerTestPreBreakNotification()
 {
     if (ControlTarget* target = readyTarget())

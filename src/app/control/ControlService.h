@@ -51,6 +51,8 @@ public Q_SLOTS:
     // Replies first; the application quits on the next turn of the event loop.
     Q_SCRIPTABLE void quit();
     Q_SCRIPTABLE void triggerTestPreBreakNotification();
+    // Answers when the check ends: its outcome in one line, or an error carrying it when the check failed.
+    Q_SCRIPTABLE QString checkForUpdates();
 
 private:
     // The target when there is one; otherwise answers the call with an error and returns null.

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVariantMap>
 
+#include <functional>
+
 namespace velto {
 
 // What `velto status` reports: the menu's status line and time text, the scheduler's state and pause reason
@@ -49,6 +51,9 @@ public:
     virtual bool openSettings() = 0;
     virtual void quit() = 0;
     virtual void triggerTestPreBreakNotification() = 0;
+    // Runs the About pane's update check and calls done once with its outcome in one line; completed is false
+    // when the check could not be made or failed. done may be called after this returns.
+    virtual void checkForUpdates(std::function<void(bool completed, const QString& outcome)> done) = 0;
 };
 
 } // namespace velto
