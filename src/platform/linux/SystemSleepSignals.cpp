@@ -1,12 +1,12 @@
 #include "SystemSleepSignals.h"
 
-#include <QAbstractNativeEventFilter>
+#include "QtX11Events.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
-#include <QGuiApplication>
 
 #include <xcb/dpms.h>
 #include <xcb/screensaver.h>
@@ -22,15 +22,6 @@ const QString mutterService = u"org.gnome.Mutter.DisplayConfig"_s;
 const QString mutterPath = u"/org/gnome/Mutter/DisplayConfig"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 const QString powerSaveMode = u"PowerSaveMode"_s;
-
-xcb_connection_t* qtX11Connection()
-{
-    auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
-    if (!app || QGuiApplication::platformName() != u"xcb"_s)
-        return nullptr;
-    auto* x11 = app->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
 
 // The DPMS level through Qt's own X connection: one short round trip, made only while the screen saver is
 // on, when nothing else is drawn or asked of the server.
@@ -52,34 +43,6 @@ SystemSleepSignals::DisplayPowerProbe x11DpmsProbe()
     };
 }
 
-// Hears the X server announce its screen saver on and off, through Qt's own X connection.
-class ScreenSaverNotifyFilter final : public QAbstractNativeEventFilter {
-public:
-    ScreenSaverNotifyFilter(uint8_t notifyEvent, std::function<void(bool)> onChange)
-        : m_notifyEvent(notifyEvent)
-        , m_onChange(std::move(onChange))
-    {}
-
-    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) override
-    {
-        if (eventType != "xcb_generic_event_t")
-            return false;
-        const auto* event = static_cast<const xcb_generic_event_t*>(message);
-        if ((event->response_type & 0x7f) != m_notifyEvent)
-            return false;
-        const auto* notify = reinterpret_cast<const xcb_screensaver_notify_event_t*>(event);
-        if (notify->state == XCB_SCREENSAVER_STATE_ON || notify->state == XCB_SCREENSAVER_STATE_CYCLE)
-            m_onChange(true);
-        else if (notify->state == XCB_SCREENSAVER_STATE_OFF)
-            m_onChange(false);
-        return false;
-    }
-
-private:
-    uint8_t m_notifyEvent;
-    std::function<void(bool)> m_onChange;
-};
-
 } // namespace
 
 SystemSleepSignals::SystemSleepSignals(DisplayPowerProbe x11DisplaysOff, QObject* parent)
@@ -95,11 +58,7 @@ SystemSleepSignals::SystemSleepSignals(DisplayPowerProbe x11DisplaysOff, QObject
     watchX11ScreenSaver();
 }
 
-SystemSleepSignals::~SystemSleepSignals()
-{
-    if (m_x11Filter && QCoreApplication::instance())
-        QCoreApplication::instance()->removeNativeEventFilter(m_x11Filter.get());
-}
+SystemSleepSignals::~SystemSleepSignals() = default;
 
 void SystemSleepSignals::watchMutter()
 {
@@ -157,10 +116,16 @@ void SystemSleepSignals::watchX11ScreenSaver()
     for (auto it = xcb_setup_roots_iterator(xcb_get_setup(connection)); it.rem; xcb_screen_next(&it))
         xcb_screensaver_select_input(connection, it.data->root, XCB_SCREENSAVER_EVENT_NOTIFY_MASK);
     xcb_flush(connection);
-    m_x11Filter =
-        std::make_unique<ScreenSaverNotifyFilter>(static_cast<uint8_t>(extension->first_event + XCB_SCREENSAVER_NOTIFY),
-                                                  [this](bool on) { x11ScreenSaverChanged(on); });
-    QCoreApplication::instance()->installNativeEventFilter(m_x11Filter.get());
+    // Saver on (or cycling) and off, as the X server announces them.
+    m_x11Filter = std::make_unique<QtX11EventFilter>(
+        static_cast<uint8_t>(extension->first_event + XCB_SCREENSAVER_NOTIFY),
+        [this](const xcb_generic_event_t* event) {
+            const auto* notify = reinterpret_cast<const xcb_screensaver_notify_event_t*>(event);
+            if (notify->state == XCB_SCREENSAVER_STATE_ON || notify->state == XCB_SCREENSAVER_STATE_CYCLE)
+                x11ScreenSaverChanged(true);
+            else if (notify->state == XCB_SCREENSAVER_STATE_OFF)
+                x11ScreenSaverChanged(false);
+        });
 }
 
 void SystemSleepSignals::x11ScreenSaverChanged(bool on)

@@ -8,10 +8,11 @@
 #include <memory>
 #include <optional>
 
-class QAbstractNativeEventFilter;
 class QDBusMessage;
 
 namespace velto {
+
+class QtX11EventFilter;
 
 // Tells when the machine or the displays go to sleep and wake again:
 // - system: logind's PrepareForSleep on the system bus (true before suspend, false after resume);
@@ -62,7 +63,7 @@ private:
     bool m_x11Off = false;
     bool m_displayAsleep = false;
     DisplayPowerProbe m_x11DisplaysOff;
-    std::unique_ptr<QAbstractNativeEventFilter> m_x11Filter;
+    std::unique_ptr<QtX11EventFilter> m_x11Filter;
 };
 
 } // namespace velto

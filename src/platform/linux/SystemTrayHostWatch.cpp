@@ -1,15 +1,15 @@
 #include "SystemTrayHostWatch.h"
 
-#include <QAbstractNativeEventFilter>
+#include "QtX11Events.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
-#include <QGuiApplication>
 
-#include <functional>
+#include <algorithm>
 #include <vector>
 #include <xcb/xcb.h>
 #include <xcb/xfixes.h>
@@ -22,35 +22,6 @@ namespace {
 
 const QString watcherService = u"org.kde.StatusNotifierWatcher"_s;
 const QString watcherPath = u"/StatusNotifierWatcher"_s;
-
-// Hears the X server say that a tray selection changed hands, through Qt's own X connection.
-class SelectionOwnerFilter final : public QAbstractNativeEventFilter {
-public:
-    SelectionOwnerFilter(uint8_t notifyEvent, std::vector<xcb_atom_t> selections, std::function<void(bool)> onChange)
-        : m_notifyEvent(notifyEvent)
-        , m_selections(std::move(selections))
-        , m_onChange(std::move(onChange))
-    {}
-
-    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) override
-    {
-        if (eventType != "xcb_generic_event_t")
-            return false;
-        const auto* event = static_cast<const xcb_generic_event_t*>(message);
-        if ((event->response_type & 0x7f) != m_notifyEvent)
-            return false;
-        const auto* notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t*>(event);
-        if (std::find(m_selections.begin(), m_selections.end(), notify->selection) != m_selections.end())
-            m_onChange(notify->owner != XCB_NONE);
-        // Qt's clipboard listens to the same kind of event for its own selections.
-        return false;
-    }
-
-private:
-    uint8_t m_notifyEvent;
-    std::vector<xcb_atom_t> m_selections;
-    std::function<void(bool)> m_onChange;
-};
 
 } // namespace
 
@@ -73,11 +44,7 @@ SystemTrayHostWatch::SystemTrayHostWatch(QObject* parent)
     askWatcher();
 }
 
-SystemTrayHostWatch::~SystemTrayHostWatch()
-{
-    if (m_x11Filter && QCoreApplication::instance())
-        QCoreApplication::instance()->removeNativeEventFilter(m_x11Filter.get());
-}
+SystemTrayHostWatch::~SystemTrayHostWatch() = default;
 
 void SystemTrayHostWatch::hostRegistered()
 {
@@ -102,11 +69,7 @@ void SystemTrayHostWatch::askWatcher()
 
 void SystemTrayHostWatch::watchXEmbedTray()
 {
-    auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
-    if (!app || QGuiApplication::platformName() != u"xcb"_s)
-        return;
-    auto* x11 = app->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
+    xcb_connection_t* connection = qtX11Connection();
     if (!connection)
         return;
     const xcb_query_extension_reply_t* xfixes = xcb_get_extension_data(connection, &xcb_xfixes_id);
@@ -145,10 +108,14 @@ void SystemTrayHostWatch::watchXEmbedTray()
     }
     xcb_flush(connection);
     m_xembedTray = owned;
-    m_x11Filter =
-        std::make_unique<SelectionOwnerFilter>(static_cast<uint8_t>(xfixes->first_event + XCB_XFIXES_SELECTION_NOTIFY),
-                                               std::move(selections), [this](bool exists) { setXEmbedTray(exists); });
-    app->installNativeEventFilter(m_x11Filter.get());
+    // A tray selection changing hands; Qt's clipboard hears the same kind of event for its own selections.
+    m_x11Filter = std::make_unique<QtX11EventFilter>(
+        static_cast<uint8_t>(xfixes->first_event + XCB_XFIXES_SELECTION_NOTIFY),
+        [this, selections = std::move(selections)](const xcb_generic_event_t* event) {
+            const auto* notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t*>(event);
+            if (std::find(selections.begin(), selections.end(), notify->selection) != selections.end())
+                setXEmbedTray(notify->owner != XCB_NONE);
+        });
 }
 
 void SystemTrayHostWatch::setStatusNotifierHost(bool exists)

@@ -5,9 +5,9 @@
 
 #include <memory>
 
-class QAbstractNativeEventFilter;
-
 namespace velto {
+
+class QtX11EventFilter;
 
 // Tells whether the session has somewhere to put a tray icon: a StatusNotifierWatcher with a registered host on
 // the session bus, or on X11 an XEmbed tray (the owner of _NET_SYSTEM_TRAY_S<n>). At login Velto often starts
@@ -42,7 +42,7 @@ private:
     bool m_statusNotifierHost = false;
     bool m_xembedTray = false;
     bool m_settled = false;
-    std::unique_ptr<QAbstractNativeEventFilter> m_x11Filter;
+    std::unique_ptr<QtX11EventFilter> m_x11Filter;
 };
 
 } // namespace velto
