@@ -4,6 +4,7 @@
 #include "BreakWindow.h"
 #include "DesktopSettings.h"
 #include "FreedMemory.h"
+#include "MainScreen.h"
 #include "NotificationWindowHints.h"
 #include "PreBreakNotificationHostingView.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
@@ -223,7 +224,8 @@ void InAppNotificationWindowPresenter::show(std::shared_ptr<PreBreakNotification
     if (m_panel)
         closeAtOnce(std::exchange(m_panel, nullptr));
 
-    QScreen* screen = QGuiApplication::primaryScreen();
+    // The desktop's main screen, where the user is working.
+    QScreen* screen = mainScreen();
     if (screen == nullptr)
         return;
     const QRect frame = finalFrame(screen->availableGeometry());

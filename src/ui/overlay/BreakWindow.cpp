@@ -4,6 +4,7 @@
 #include "BreakViewModel.h"
 #include "DesktopPicture.h"
 #include "FreedMemory.h"
+#include "MainScreen.h"
 #include "scheduling/BreakEffects.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
@@ -172,7 +173,8 @@ void BreakWindow::show(BreakType breakType)
     prepareBackgroundImage();
     const ScreenDisplayMode mode =
         m_settings ? m_settings->breakAppearance().screenDisplayMode : ScreenDisplayMode::AllScreens;
-    for (QScreen* screen : breakTargetScreens(mode, QGuiApplication::screens(), QGuiApplication::primaryScreen())) {
+    for (QScreen* screen : breakTargetScreens(mode, QGuiApplication::screens(),
+                                              mode == ScreenDisplayMode::AllScreens ? nullptr : mainScreen())) {
         QQuickWindow* window = makeBreakWindow(screen, breakType);
         if (!window)
             continue;

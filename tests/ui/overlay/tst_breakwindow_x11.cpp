@@ -2,6 +2,7 @@
 // as a desk with two displays looks to Qt. Skipped where Xvfb, openbox or xrandr is not installed.
 #include "BreakWindow.h"
 #include "InMemoryUserDefaults.h"
+#include "MainScreen.h"
 #include "XvfbDesktop.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
@@ -11,6 +12,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTest>
+#include <QWindow>
 
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
@@ -31,6 +33,26 @@ private Q_SLOTS:
             QSKIP("no Xvfb, openbox or xrandr here");
         QCOMPARE(QGuiApplication::platformName(), u"xcb"_s);
         QCOMPARE(QGuiApplication::screens().size(), 2);
+    }
+
+    // The main screen is the one holding most of the focused window, so the card and a one-screen break
+    // appear there.
+    void theMainScreenHoldsTheFocusedWindow()
+    {
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        QWindow focused;
+        for (const auto& [frame, screen] :
+             {std::pair{QRect(1500, 100, 400, 300), screens[1]}, std::pair{QRect(1000, 100, 400, 300), screens[0]}}) {
+            focused.setGeometry(frame);
+            focused.show();
+            focused.requestActivate();
+            QTRY_VERIFY(focusedWindowFrame().intersects(frame));
+            QTRY_COMPARE(mainScreen(), screen);
+        }
+        focused.hide();
+        // Nothing known of the focused window: the fallback.
+        QCOMPARE(screenHolding({}, screens, screens[1]), screens[1]);
+        QCOMPARE(screenHolding(QRect(5000, 0, 10, 10), screens, nullptr), nullptr);
     }
 
     void oneWindowPerMonitorAboveTheWindowManager()
