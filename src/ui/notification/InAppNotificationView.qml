@@ -141,7 +141,7 @@ Item {
                     font.letterSpacing: 0.8
                     Accessible.ignored: true
                 }
-                Text {
+                TabularDigits {
                     objectName: "countdownText"
                     anchors.right: parent.right
                     text: card.displayModel.countdownText
@@ -149,7 +149,6 @@ Item {
                     font.family: card.fontFamily
                     font.pixelSize: 30
                     font.weight: Font.DemiBold
-                    Accessible.ignored: true
                 }
             }
         }

@@ -118,7 +118,7 @@ Item {
                 trackColor: view.viewModel.isDarkBackground ? Qt.rgba(1, 1, 1, 0.25) : Qt.rgba(0.18, 0.18, 0.18, 0.08)
                 arcColor: view.viewModel.accentColor
 
-                Text {
+                TabularDigits {
                     objectName: "timeText"
                     anchors.centerIn: parent
                     text: view.viewModel.timeText

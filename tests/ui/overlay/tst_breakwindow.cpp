@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPointer>
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickImageProvider>
 #include <QQuickItem>
@@ -257,6 +258,37 @@ private Q_SLOTS:
         QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(endBreak));
         QVERIFY(rig.breaks.state() != BreakState::OnBreak);
         QCOMPARE(rig.breaks.dailyBreakCount(), 1);
+    }
+
+    // GNOME's Cantarell draws a narrow 1, as many interface fonts do; the countdown's digits still hold still.
+    void countdownDigitsKeepTheirWidth()
+    {
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData(
+            "import QtQuick\n"
+            "Item {\n"
+            "    property alias text: digits.text\n"
+            "    function widths() { digits.forceLayout(); return [digits.implicitWidth, plain.implicitWidth] }\n"
+            "    TabularDigits { id: digits; font.family: 'Cantarell'; font.pixelSize: 64 }\n"
+            "    Text { id: plain; text: digits.text; font: digits.font }\n"
+            "}\n",
+            QUrl(u"qrc:/Velto/Overlay/overlay/Probe.qml"_s));
+        std::unique_ptr<QObject> probe(component.create());
+        QVERIFY2(probe, qPrintable(component.errorString()));
+        auto widthsOf = [&](const QString& text) {
+            probe->setProperty("text", text);
+            QVariant widths;
+            QMetaObject::invokeMethod(probe.get(), "widths", Q_RETURN_ARG(QVariant, widths));
+            const QVariantList list = widths.toList();
+            return std::pair{list.value(0).toReal(), list.value(1).toReal()};
+        };
+        const auto ones = widthsOf(u"11:11"_s);
+        const auto zeros = widthsOf(u"00:00"_s);
+        // The font itself would jitter (so it is the one installed for the tests), the countdown does not.
+        QVERIFY(ones.second < zeros.second);
+        QCOMPARE(ones.first, zeros.first);
+        QVERIFY(ones.first > 0);
     }
 
     void dimLayerOnScreen()
