@@ -46,8 +46,10 @@ private Q_SLOTS:
     void aRecorderStreamIsCapture();
     void withoutAServerTheAnswerIsFalseAndSaidOnce();
     void aHungServerCostsAtMostTheTimeout();
+    void theConnectionOutlivesPassesAndARestartOfTheServer();
 
 private:
+    void startServer();
     // Publishes a node for as long as the returned pw-cli runs.
     QProcess* publish(const QString& properties);
     void unpublish(QProcess* cli);
@@ -76,7 +78,13 @@ void TestPipeWireCapture::initTestCase()
     QVERIFY(config.open(QIODevice::WriteOnly));
     config.write(serverConfig);
     config.close();
-    m_server = startQuietly(pipewire, {u"-c"_s, config.fileName()}, environment());
+    startServer();
+}
+
+void TestPipeWireCapture::startServer()
+{
+    m_server = startQuietly(QStandardPaths::findExecutable(u"pipewire"_s),
+                            {u"-c"_s, m_runtime.filePath(u"server.conf"_s)}, environment());
     QVERIFY(m_server);
     QVERIFY(waitForSocket(m_runtime.filePath(u"pipewire-0"_s), *m_server));
 }
@@ -181,6 +189,24 @@ void TestPipeWireCapture::aHungServerCostsAtMostTheTimeout()
     QVERIFY(!capture.isCapturing());
     QVERIFY2(timer.elapsed() < 500, QByteArray::number(timer.elapsed()).constData());
     QCOMPARE(messages.texts().size(), 1);
+}
+
+// One connection serves every pass; when the server goes, the next pass after its return connects again.
+void TestPipeWireCapture::theConnectionOutlivesPassesAndARestartOfTheServer()
+{
+    const PipeWireCapture capture(m_runtime.path());
+    QVERIFY(publish(u"node.name=xdpw_stream media.class=Video/Source"_s));
+    QTRY_VERIFY(capture.isCapturing());
+    cleanup();
+    stopProcess(*m_server);
+    MessageCapture messages;
+    QTRY_VERIFY(!capture.isCapturing());
+    startServer();
+    QVERIFY(publish(u"node.name=xdpw_stream media.class=Video/Source"_s));
+    QTRY_VERIFY(capture.isCapturing());
+    // Gone, then its socket gone: each said once, however many passes failed.
+    const QStringList said = messages.texts();
+    QCOMPARE(QSet<QString>(said.cbegin(), said.cend()).size(), said.size());
 }
 
 QTEST_GUILESS_MAIN(TestPipeWireCapture)

@@ -13,6 +13,7 @@
 #include <pulse/introspect.h>
 #include <pulse/mainloop.h>
 #include <pulse/proplist.h>
+#include <pulse/subscribe.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -163,15 +164,13 @@ QStringList SystemMicrophoneUsage::activeMicrophoneIdentifiers() const
     return alsaCaptureDevices();
 }
 
-namespace {
-
-// One short-lived conversation with the sound server, bounded by a deadline: connect, list the sources and
-// the recording streams, disconnect. A persistent connection would need a thread of its own; one pass every
-// two seconds costs well under a millisecond this way.
-class PulseQuery final {
+// A connection to the sound server kept open between passes and subscribed to changes of sources and
+// recording streams. The server's notices wait on the socket until the next pass reads them without
+// waiting; only then, and only when something changed, are the lists asked for again. No thread of ours
+// wakes in between, and a quiet pass makes no round trip.
+class SystemMicrophoneUsage::PulseWatch final {
 public:
-    explicit PulseQuery(int timeoutMilliseconds)
-        : m_deadline(std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMilliseconds))
+    explicit PulseWatch(const QByteArray& server)
     {
         m_loop = pa_mainloop_new();
         if (m_loop == nullptr)
@@ -181,26 +180,32 @@ public:
         pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, "com.velto.app");
         m_context = pa_context_new_with_proplist(pa_mainloop_get_api(m_loop), "Velto", properties);
         pa_proplist_free(properties);
+        if (m_context == nullptr)
+            return;
+        if (pa_context_connect(m_context, server.isEmpty() ? nullptr : server.constData(), PA_CONTEXT_NOAUTOSPAWN,
+                               nullptr) < 0)
+            m_failure = QString::fromUtf8(pa_strerror(pa_context_errno(m_context)));
     }
-    ~PulseQuery()
+    ~PulseWatch()
     {
         if (m_context != nullptr) {
+            pa_context_set_subscribe_callback(m_context, nullptr, nullptr);
             pa_context_disconnect(m_context);
             pa_context_unref(m_context);
         }
         if (m_loop != nullptr)
             pa_mainloop_free(m_loop);
     }
-    PulseQuery(const PulseQuery&) = delete;
-    PulseQuery& operator=(const PulseQuery&) = delete;
+    PulseWatch(const PulseWatch&) = delete;
+    PulseWatch& operator=(const PulseWatch&) = delete;
 
-    std::optional<QStringList> run(const QByteArray& server, QString* failure)
+    // The sources recorded from now; none, with the reason, when the server cannot be reached or did not
+    // answer in time.
+    std::optional<QStringList> recordedSources(int timeoutMilliseconds, QString* failure)
     {
-        if (m_context == nullptr)
-            return std::nullopt;
-        if (pa_context_connect(m_context, server.isEmpty() ? nullptr : server.constData(), PA_CONTEXT_NOAUTOSPAWN,
-                               nullptr) < 0) {
-            *failure = QString::fromUtf8(pa_strerror(pa_context_errno(m_context)));
+        m_deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMilliseconds);
+        if (m_context == nullptr || !m_failure.isEmpty()) {
+            *failure = m_failure.isEmpty() ? u"no sound server client"_s : m_failure;
             return std::nullopt;
         }
         if (!iterateUntil([this] {
@@ -211,8 +216,39 @@ public:
             *failure = QString::fromUtf8(pa_strerror(pa_context_errno(m_context)));
             return std::nullopt;
         }
-        pa_operation* sources = pa_context_get_source_info_list(m_context, &PulseQuery::onSource, this);
-        pa_operation* outputs = pa_context_get_source_output_info_list(m_context, &PulseQuery::onSourceOutput, this);
+        if (!m_subscribed) {
+            pa_context_set_subscribe_callback(m_context, &PulseWatch::onChange, this);
+            pa_operation* subscribe = pa_context_subscribe(
+                m_context,
+                static_cast<pa_subscription_mask_t>(PA_SUBSCRIPTION_MASK_SOURCE | PA_SUBSCRIPTION_MASK_SOURCE_OUTPUT),
+                nullptr, nullptr);
+            if (subscribe)
+                pa_operation_unref(subscribe);
+            m_subscribed = true;
+        }
+        // What the server said since the last pass, without waiting for more.
+        int dispatched = 0;
+        while ((dispatched = pa_mainloop_iterate(m_loop, 0, nullptr)) > 0) {
+        }
+        if (dispatched < 0 || pa_context_get_state(m_context) != PA_CONTEXT_READY) {
+            *failure = u"the connection to the server ended"_s;
+            return std::nullopt;
+        }
+        if (m_changed && !list(failure))
+            return std::nullopt;
+        return m_recorded;
+    }
+
+private:
+    bool list(QString* failure)
+    {
+        m_changed = false;
+        m_sourceNames.clear();
+        m_monitorSources.clear();
+        m_recordedSources.clear();
+        m_sourcesDone = m_outputsDone = m_failed = false;
+        pa_operation* sources = pa_context_get_source_info_list(m_context, &PulseWatch::onSource, this);
+        pa_operation* outputs = pa_context_get_source_output_info_list(m_context, &PulseWatch::onSourceOutput, this);
         const bool finished = iterateUntil([this] { return m_sourcesDone && m_outputsDone; });
         if (sources)
             pa_operation_unref(sources);
@@ -220,17 +256,16 @@ public:
             pa_operation_unref(outputs);
         if (!finished || m_failed) {
             *failure = finished ? u"the server refused to list its sources"_s : u"the server did not answer in time"_s;
-            return std::nullopt;
+            return false;
         }
-        QStringList names;
+        m_recorded.clear();
         for (auto it = m_sourceNames.cbegin(); it != m_sourceNames.cend(); ++it) {
             if (m_recordedSources.contains(it.key()) && !m_monitorSources.contains(it.key()))
-                names.append(it.value());
+                m_recorded.append(it.value());
         }
-        return names;
+        return true;
     }
 
-private:
     template <typename Done>
     bool iterateUntil(Done done)
     {
@@ -246,9 +281,14 @@ private:
         return true;
     }
 
+    static void onChange(pa_context*, pa_subscription_event_type_t, uint32_t, void* userdata)
+    {
+        static_cast<PulseWatch*>(userdata)->m_changed = true;
+    }
+
     static void onSource(pa_context*, const pa_source_info* info, int eol, void* userdata)
     {
-        auto* self = static_cast<PulseQuery*>(userdata);
+        auto* self = static_cast<PulseWatch*>(userdata);
         if (eol != 0) {
             self->m_failed = self->m_failed || eol < 0;
             self->m_sourcesDone = true;
@@ -261,7 +301,7 @@ private:
 
     static void onSourceOutput(pa_context*, const pa_source_output_info* info, int eol, void* userdata)
     {
-        auto* self = static_cast<PulseQuery*>(userdata);
+        auto* self = static_cast<PulseWatch*>(userdata);
         if (eol != 0) {
             self->m_failed = self->m_failed || eol < 0;
             self->m_outputsDone = true;
@@ -275,6 +315,11 @@ private:
     std::chrono::steady_clock::time_point m_deadline;
     pa_mainloop* m_loop = nullptr;
     pa_context* m_context = nullptr;
+    QString m_failure;
+    bool m_subscribed = false;
+    // The first pass lists; later ones only after the server told of a change.
+    bool m_changed = true;
+    QStringList m_recorded;
     QMap<uint32_t, QString> m_sourceNames;
     QSet<uint32_t> m_monitorSources;
     QSet<uint32_t> m_recordedSources;
@@ -283,13 +328,18 @@ private:
     bool m_failed = false;
 };
 
-} // namespace
+SystemMicrophoneUsage::~SystemMicrophoneUsage() = default;
 
 std::optional<QStringList> SystemMicrophoneUsage::pulseCaptureSources() const
 {
-    PulseQuery query(m_options.timeoutMilliseconds);
+    const std::lock_guard lock(m_pulseMutex);
+    if (!m_pulse)
+        m_pulse = std::make_unique<PulseWatch>(m_options.pulseServer);
     QString failure;
-    auto sources = query.run(m_options.pulseServer, &failure);
+    auto sources = m_pulse->recordedSources(m_options.timeoutMilliseconds, &failure);
+    // Connected afresh on the next pass, as after a restart of the server.
+    if (!sources)
+        m_pulse.reset();
     if (!sources)
         m_log.warn(u"pulse"_s, u"No sound server answers (%1); reading ALSA capture streams instead"_s.arg(failure));
     return sources;

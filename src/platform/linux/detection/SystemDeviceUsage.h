@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+#include <mutex>
 #include <optional>
 
 namespace velto {
@@ -49,18 +51,24 @@ public:
     };
     SystemMicrophoneUsage();
     explicit SystemMicrophoneUsage(Options options);
+    ~SystemMicrophoneUsage() override;
 
     [[nodiscard]] bool isMicrophoneInUse() const override;
     [[nodiscard]] QStringList activeMicrophoneIdentifiers() const override;
 
-    // Recording sources as the sound server reports them; none when no server answered in time.
+    // Recording sources as the sound server reports them; none when no server answered in time. The
+    // connection stays open between calls. Safe from any thread.
     [[nodiscard]] std::optional<QStringList> pulseCaptureSources() const;
     // Running ALSA capture substreams under the proc root.
     [[nodiscard]] QStringList alsaCaptureDevices() const;
 
 private:
+    class PulseWatch;
+
     Options m_options;
     LogOnce m_log;
+    mutable std::mutex m_pulseMutex;
+    mutable std::unique_ptr<PulseWatch> m_pulse;
 };
 
 } // namespace velto
