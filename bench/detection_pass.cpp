@@ -100,10 +100,17 @@ int main(int argc, char* argv[])
     const long long passes = argc > 1 ? std::max(1000LL, QByteArray(argv[1]).toLongLong()) : 200000;
 
     DetectionProviders providers{
-        std::make_unique<Workspace>(),     std::make_unique<WindowList>(),      std::make_unique<Screen>(),
-        std::make_unique<IdleTime>(),      std::make_unique<Camera>(),          std::make_unique<Microphone>(),
-        std::make_unique<VideoPlayback>(), std::make_unique<ScreenRecording>(), std::make_unique<AppCategory>(),
+        std::make_unique<Workspace>(),
+        std::make_unique<WindowList>(),
+        std::make_unique<Screen>(),
+        std::make_unique<IdleTime>(),
+        std::make_unique<Camera>(),
+        std::make_unique<Microphone>(),
+        std::make_unique<VideoPlayback>(),
+        std::make_unique<ScreenRecording>(),
+        std::make_unique<AppCategory>(),
         std::make_unique<Clock>(),
+        {},
     };
     // Every detection on; background players asked too, and focus entries that make the probe go through the
     // whole list (the frontmost one needs a fullscreen window it does not have).

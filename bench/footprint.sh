@@ -51,14 +51,15 @@ memory_mb() {
          END {printf "RSS %.1f  Private_Dirty %.1f  (PSS %.1f)", r / 1024, d / 1024, p / 1024}' "/proc/$app/smaps_rollup"
 }
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
-# One line per thread: "tid context-switches name", spaces in the name made underscores.
+# One line per thread: "tid all-switches voluntary-switches name", spaces in the name made underscores.
 thread_switches() {
-    local status tid name n
+    local status tid name counts
     for status in /proc/"$app"/task/*/status; do
         tid=${status%/status}; tid=${tid##*/}
         name=$(sed -n 's/^Name:[[:space:]]*//p' "$status" 2>/dev/null) || continue
-        n=$(awk '/ctxt_switches/ {n += $2} END {print n}' "$status" 2>/dev/null) || continue
-        [ -n "$n" ] && printf '%s %s %s\n' "$tid" "$n" "${name// /_}"
+        counts=$(awk '/^voluntary_ctxt_switches/ {v = $2} /ctxt_switches/ {n += $2} END {print n, v}' "$status" \
+            2>/dev/null) || continue
+        [ -n "$counts" ] && printf '%s %s %s\n' "$tid" "$counts" "${name// /_}"
     done
 }
 
@@ -72,9 +73,12 @@ sample() {
     sleep "$2"
     t1=$(cpu_ticks); thread_switches >"$home/switches1"; end=$(date +%s.%N)
     awk -v label="$1" -v memory="$(memory_mb)" -v t="$((t1 - t0))" -v hz="$hz" -v a="$start" -v b="$end" '
-        NR == FNR { before[$1] = $2; next }
+        NR == FNR { before[$1] = $2; voluntary[$1] = $3; next }
         # A thread started during the span counts from zero; one that ended is missing from both sums alike.
-        { d = $2 - before[$1]; total += d; line[++n] = sprintf("    %-32s %6.2f /s", $3 " (" $1 ")", d / (b - a)) }
+        {
+            d = $2 - before[$1]; v = $3 - voluntary[$1]; total += d
+            line[++n] = sprintf("    %-32s %6.2f /s  (voluntary %.2f)", $4 " (" $1 ")", d / (b - a), v / (b - a))
+        }
         END {
             e = b - a
             printf "%s:  %s MB   CPU %.2f %%   wake-ups %.2f /s\n", label, memory, 100 * t / hz / e, total / e

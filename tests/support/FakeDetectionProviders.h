@@ -212,6 +212,7 @@ public:
         m_owned.screenRecording.reset(screenRecording = new FakeScreenRecordingState);
         m_owned.appCategory.reset(appCategory = new FakeAppCategory);
         m_owned.clock.reset(clock = new FakeClock);
+        m_owned.passBoundary = [boundaries = passBoundaries](bool begins) { boundaries->append(begins); };
     }
 
     [[nodiscard]] velto::DetectionProviders take() { return std::move(m_owned); }
@@ -228,6 +229,8 @@ public:
     FakeScreenRecordingState* screenRecording;
     FakeAppCategory* appCategory;
     FakeClock* clock;
+    // What the pass boundary was told, in order; shared, so it outlives this object in a detector.
+    std::shared_ptr<QList<bool>> passBoundaries = std::make_shared<QList<bool>>();
 
 private:
     velto::DetectionProviders m_owned;

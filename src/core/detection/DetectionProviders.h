@@ -11,6 +11,7 @@
 #include "WindowListProviding.h"
 #include "WorkspaceProviding.h"
 
+#include <functional>
 #include <memory>
 
 namespace velto {
@@ -27,6 +28,9 @@ struct DetectionProviders {
     std::unique_ptr<ScreenRecordingStateProviding> screenRecording;
     std::unique_ptr<AppCategoryProviding> appCategory;
     std::unique_ptr<ClockProviding> clock;
+    // Told true as a detection pass begins and false as it ends, when set: providers that share a server may
+    // then ask it once for the whole pass instead of once per question.
+    std::function<void(bool begins)> passBoundary;
 
     [[nodiscard]] bool isComplete() const
     {

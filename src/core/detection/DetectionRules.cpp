@@ -146,6 +146,20 @@ bool detectIdle(double idleThreshold, const IdleTimeProviding& idleTime)
 DetectionSnapshot detectActivity(const DetectionProviders& providers, const SmartPauseSettings& settings,
                                  double idleThreshold)
 {
+    struct PassScope {
+        const std::function<void(bool)>& boundary;
+        explicit PassScope(const std::function<void(bool)>& b)
+            : boundary(b)
+        {
+            if (boundary)
+                boundary(true);
+        }
+        ~PassScope()
+        {
+            if (boundary)
+                boundary(false);
+        }
+    } scope(providers.passBoundary);
     DetectionSnapshot snapshot;
     const bool needsApplications = settings.detectMeetings || settings.detectVideoPlayback ||
                                    settings.detectScreenRecording || settings.detectFullscreenGaming ||

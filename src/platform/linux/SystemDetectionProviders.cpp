@@ -38,6 +38,12 @@ DetectionProviders makeSystemDetectionProviders(std::shared_ptr<DesktopEntryInde
     providers.screenRecording = std::make_unique<SystemScreenRecordingState>(x11, std::make_shared<PipeWireCapture>());
     providers.appCategory = std::make_unique<SystemAppCategory>(identities, memo);
     providers.clock = std::make_unique<SystemClock>();
+    providers.passBoundary = [x11](bool begins) {
+        if (begins)
+            x11->beginPass();
+        else
+            x11->endPass();
+    };
     return providers;
 }
 

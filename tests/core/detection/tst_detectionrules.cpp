@@ -331,6 +331,8 @@ void TestDetectionRules::passAsksOnlyWhatIsSwitchedOn()
     QCOMPARE(fakes.clock->calls(), 1);
     QVERIFY(found.isInMeeting && found.isScreenRecording && found.isIdle && found.meetingPauseCamera);
     QCOMPARE(found.meetingPauseAppBundleIdentifier, u"us.zoom.xos"_s);
+    // Each pass, even one that asks nothing, is opened and closed once around its questions.
+    QCOMPARE(*fakes.passBoundaries, (QList<bool>{true, false, true, false, true, false}));
 }
 
 QTEST_GUILESS_MAIN(TestDetectionRules)

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void windowsThatVanishMidQueryDropOutQuietly();
     void withoutAServerTheListIsEmptyAndSaidOnce();
     void aServerThatGoesAwayLeavesAnEmptyList();
+    void aPassAsksTheServerOnceForEveryProvider();
 };
 
 void TestSystemWindowList::windowListGivesFramesLayersAndFrontToBackOrder()
@@ -88,6 +89,27 @@ void TestSystemWindowList::minimisedAndResizedWindowsAreSeenAsTheyAre()
 
     QVERIFY(xdotool({u"windowminimize"_s, u"--sync"_s, QString::number(id)}));
     QTRY_VERIFY(!windowOf(windows.onScreenWindows(), window->processId()));
+}
+
+void TestSystemWindowList::aPassAsksTheServerOnceForEveryProvider()
+{
+    SystemWindowList windows(m_link);
+    SystemWindowList outside(std::make_shared<X11Link>(m_desktop.display().toLocal8Bit()));
+    QProcess* window = open({u"--title"_s, u"Recording"_s});
+    QVERIFY(window);
+    const qint64 pid = window->processId();
+    QTRY_VERIFY(windowOf(windows.onScreenWindows(), pid));
+
+    m_link->beginPass();
+    QVERIFY(windowOf(windows.onScreenWindows(), pid));
+    closeWindows();
+    QTRY_VERIFY(!windowOf(outside.onScreenWindows(), pid));
+    // Within the pass every provider answers from what was asked at its start, titles included.
+    QVERIFY(windowOf(windows.onScreenWindows(), pid));
+    QCOMPARE(windows.titledWindows().size(), 1);
+    m_link->endPass();
+    QVERIFY(!windowOf(windows.onScreenWindows(), pid));
+    QVERIFY(windows.titledWindows().isEmpty());
 }
 
 void TestSystemWindowList::windowsThatVanishMidQueryDropOutQuietly()

@@ -22,15 +22,22 @@ QList<AppSnapshot> SystemWorkspace::runningApplications() const
     {
         QMutexLocker lock(&m_refreshMutex);
         if (m_nextRefresh.hasExpired()) {
-            m_identities->desktopEntries().refreshIfChanged();
+            if (m_identities->desktopEntries().refreshIfChanged())
+                m_identityOfWindow.clear();
             m_nextRefresh.setRemainingTime(desktopEntryRefreshInterval);
         }
     }
     QList<AppSnapshot> applications;
+    QHash<QPair<quint32, qint32>, std::optional<QString>> known;
+    {
+        QMutexLocker lock(&m_refreshMutex);
+        known = m_identityOfWindow;
+    }
+    QHash<QPair<quint32, qint32>, std::optional<QString>> identities;
     QHash<qint32, WindowClassMemo::Classes> classes;
-    const auto session = m_x11->session(m_log);
-    if (session) {
-        const X11Queries::Clients clients = X11Queries::clients(*session);
+    const auto x11 = m_x11->snapshot(m_log);
+    if (x11) {
+        const X11Queries::Clients& clients = x11->clients;
         for (const X11Queries::Client& client : clients.clients) {
             if (client.pid <= 0 || classes.contains(client.pid))
                 continue;
@@ -38,12 +45,21 @@ QList<AppSnapshot> SystemWorkspace::runningApplications() const
             AppSnapshot app;
             app.processIdentifier = client.pid;
             app.isActive = client.pid == clients.activePid;
-            app.bundleIdentifier = m_identities->identity(client.pid, client.wmInstance, client.wmClass);
+            const QPair<quint32, qint32> key(client.window, client.pid);
+            const auto found = known.constFind(key);
+            app.bundleIdentifier = found != known.constEnd()
+                                       ? *found
+                                       : m_identities->identity(client.pid, client.wmInstance, client.wmClass);
+            identities.insert(key, app.bundleIdentifier);
             applications.append(app);
         }
     }
     m_memo->replace(std::move(classes));
-    if (!session || m_scope == Scope::WindowsAndProcesses)
+    {
+        QMutexLocker lock(&m_refreshMutex);
+        m_identityOfWindow = std::move(identities);
+    }
+    if (!x11 || m_scope == Scope::WindowsAndProcesses)
         appendInstalledApplications(applications);
     return applications;
 }
@@ -77,22 +93,22 @@ SystemWindowList::SystemWindowList(std::shared_ptr<X11Link> x11)
 
 QList<WindowDescriptor> SystemWindowList::onScreenWindows() const
 {
-    const auto session = m_x11->session(m_log);
-    if (!session)
+    const auto x11 = m_x11->snapshot(m_log);
+    if (!x11)
         return {};
     QList<WindowDescriptor> windows;
-    for (const X11Queries::OnScreenWindow& window : X11Queries::onScreenWindows(*session, false))
+    for (const X11Queries::OnScreenWindow& window : x11->onScreenWindows)
         windows.append({window.pid, window.frame, window.layer});
     return windows;
 }
 
 QList<TitledWindow> SystemWindowList::titledWindows() const
 {
-    const auto session = m_x11->session(m_log);
-    if (!session)
+    const auto x11 = m_x11->snapshot(m_log);
+    if (!x11)
         return {};
     QList<TitledWindow> windows;
-    for (const X11Queries::OnScreenWindow& window : X11Queries::onScreenWindows(*session, true))
+    for (const X11Queries::OnScreenWindow& window : x11->onScreenWindows)
         windows.append({window.pid, window.title});
     return windows;
 }
@@ -103,10 +119,10 @@ SystemScreen::SystemScreen(std::shared_ptr<X11Link> x11)
 
 QRectF SystemScreen::mainScreenFrame() const
 {
-    const auto session = m_x11->session(m_log);
-    if (!session)
+    const auto x11 = m_x11->snapshot(m_log);
+    if (!x11)
         return {};
-    return X11Queries::primaryScreenFrame(*session);
+    return x11->primaryScreenFrame;
 }
 
 SystemIdleTime::SystemIdleTime(std::shared_ptr<X11Link> x11, QDBusConnection sessionBus, Source order)
@@ -126,10 +142,10 @@ double SystemIdleTime::secondsSinceLastInput() const
 
 std::optional<double> SystemIdleTime::x11IdleSeconds() const
 {
-    const auto session = m_x11->session(m_log);
-    if (!session)
+    const auto x11 = m_x11->snapshot(m_log);
+    if (!x11)
         return std::nullopt;
-    if (const auto milliseconds = X11Queries::millisecondsSinceInput(*session))
+    if (const auto milliseconds = x11->millisecondsSinceInput)
         return *milliseconds / 1000.0;
     m_log.warn(u"x11-screensaver"_s, u"The X server has no screen-saver extension"_s);
     return std::nullopt;

@@ -68,6 +68,10 @@ private:
     // Applications installed while we run get their names at the next look, a few seconds later.
     mutable QMutex m_refreshMutex;
     mutable QDeadlineTimer m_nextRefresh{desktopEntryRefreshInterval};
+    // Each window's application, worked out once: a window keeps its process, and a process its sandbox and
+    // program, for as long as the window lives. Only current windows are kept; emptied when the installed
+    // applications change.
+    mutable QHash<QPair<quint32, qint32>, std::optional<QString>> m_identityOfWindow;
     LogOnce m_log;
 };
 

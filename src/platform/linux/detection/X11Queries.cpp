@@ -1,5 +1,7 @@
 #include "X11Queries.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <vector>
 #include <xcb/randr.h>
@@ -39,12 +41,6 @@ QList<xcb_atom_t> atomListReply(const X11Session& s, xcb_get_property_cookie_t c
     return atoms;
 }
 
-QList<xcb_window_t> windowList(const X11Session& s, xcb_atom_t property)
-{
-    const auto cookie = xcb_get_property(s.connection(), 0, s.root(), property, XCB_ATOM_WINDOW, 0, maxListLength);
-    return atomListReply(s, cookie);
-}
-
 int layerFor(const X11Session& s, const QList<xcb_atom_t>& types)
 {
     const xcb_ewmh_connection_t* e = s.ewmh();
@@ -71,57 +67,65 @@ int layerFor(const X11Session& s, const QList<xcb_atom_t>& types)
 
 } // namespace
 
-Clients clients(const X11Session& s)
-{
-    Clients result;
-    xcb_connection_t* c = s.connection();
-    const auto activeCookie = xcb_get_property(c, 0, s.root(), s.ewmh()->_NET_ACTIVE_WINDOW, XCB_ATOM_WINDOW, 0, 1);
-    const QList<xcb_window_t> windows = windowList(s, s.ewmh()->_NET_CLIENT_LIST);
-    const QList<xcb_window_t> active = atomListReply(s, activeCookie);
-
-    std::vector<xcb_get_property_cookie_t> pidCookies;
-    std::vector<xcb_get_property_cookie_t> classCookies;
-    pidCookies.reserve(windows.size());
-    classCookies.reserve(windows.size());
-    for (const xcb_window_t window : windows) {
-        pidCookies.push_back(cardinalProperty(s, window, s.ewmh()->_NET_WM_PID));
-        classCookies.push_back(xcb_get_property(c, 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 256));
-    }
-    result.clients.reserve(windows.size());
-    for (qsizetype i = 0; i < windows.size(); ++i) {
-        Client client;
-        client.window = windows[i];
-        client.pid = static_cast<qint32>(cardinalReply(s, pidCookies[i]).value_or(0));
-        auto classReply = fetch(xcb_get_property_reply, c, classCookies[i]);
-        const QByteArray classBytes = X11Session::propertyBytes(classReply.get());
-        // WM_CLASS is "instance\0class\0".
-        const QList<QByteArray> parts = classBytes.split('\0');
-        if (!parts.isEmpty())
-            client.wmInstance = QString::fromLocal8Bit(parts.value(0));
-        client.wmClass = QString::fromLocal8Bit(parts.value(1));
-        if (!active.isEmpty() && active.first() == client.window)
-            result.activePid = client.pid;
-        result.clients.append(client);
-    }
-    return result;
-}
-
-QList<OnScreenWindow> onScreenWindows(const X11Session& s, bool withTitles)
+Snapshot snapshot(const X11Session& s)
 {
     xcb_connection_t* c = s.connection();
     const xcb_ewmh_connection_t* e = s.ewmh();
-    const auto desktopCookie = cardinalProperty(s, s.root(), e->_NET_CURRENT_DESKTOP);
-    // Bottom to top; reversed below, so the frontmost window comes first.
-    QList<xcb_window_t> windows = windowList(s, e->_NET_CLIENT_LIST_STACKING);
-    if (windows.isEmpty())
-        windows = windowList(s, e->_NET_CLIENT_LIST);
-    const std::optional<uint32_t> currentDesktop = cardinalReply(s, desktopCookie);
+    Snapshot result;
+    result.primaryScreenFrame = QRectF(0, 0, s.screen()->width_in_pixels, s.screen()->height_in_pixels);
 
+    // First batch: what the root window and the extensions know.
+    const auto activeCookie = xcb_get_property(c, 0, s.root(), e->_NET_ACTIVE_WINDOW, XCB_ATOM_WINDOW, 0, 1);
+    const auto clientsCookie = xcb_get_property(c, 0, s.root(), e->_NET_CLIENT_LIST, XCB_ATOM_WINDOW, 0, maxListLength);
+    const auto stackingCookie =
+        xcb_get_property(c, 0, s.root(), e->_NET_CLIENT_LIST_STACKING, XCB_ATOM_WINDOW, 0, maxListLength);
+    const auto desktopCookie = cardinalProperty(s, s.root(), e->_NET_CURRENT_DESKTOP);
+    const xcb_query_extension_reply_t* saver = xcb_get_extension_data(c, &xcb_screensaver_id);
+    const bool hasSaver = saver != nullptr && saver->present;
+    const auto idleCookie = hasSaver ? xcb_screensaver_query_info(c, s.root()) : xcb_screensaver_query_info_cookie_t{};
+    const xcb_query_extension_reply_t* randr = xcb_get_extension_data(c, &xcb_randr_id);
+    const bool hasRandr = randr != nullptr && randr->present;
+    // Monitors are what desktops lay out (and what a split screen shows as several); the primary one first.
+    const auto monitorsCookie = hasRandr ? xcb_randr_get_monitors(c, s.root(), 1) : xcb_randr_get_monitors_cookie_t{};
+
+    const QList<xcb_window_t> active = atomListReply(s, activeCookie);
+    const QList<xcb_window_t> clientList = atomListReply(s, clientsCookie);
+    // Bottom to top; reversed below, so the frontmost window comes first.
+    QList<xcb_window_t> stacking = atomListReply(s, stackingCookie);
+    if (stacking.isEmpty())
+        stacking = clientList;
+    const std::optional<uint32_t> currentDesktop = cardinalReply(s, desktopCookie);
+    if (hasSaver) {
+        if (auto info = fetch(xcb_screensaver_query_info_reply, c, idleCookie))
+            result.millisecondsSinceInput = info->ms_since_user_input;
+    }
+    if (hasRandr) {
+        if (auto monitors = fetch(xcb_randr_get_monitors_reply, c, monitorsCookie)) {
+            std::optional<QRectF> first;
+            std::optional<QRectF> primary;
+            for (auto it = xcb_randr_get_monitors_monitors_iterator(monitors.get()); it.rem > 0;
+                 xcb_randr_monitor_info_next(&it)) {
+                const QRectF frame(it.data->x, it.data->y, it.data->width, it.data->height);
+                if (it.data->primary && !primary)
+                    primary = frame;
+                if (!first)
+                    first = frame;
+            }
+            result.primaryScreenFrame = primary.value_or(first.value_or(result.primaryScreenFrame));
+        }
+    }
+
+    // Second batch: every managed window's facts.
+    QList<xcb_window_t> windows = clientList;
+    for (const xcb_window_t w : std::as_const(stacking))
+        if (!windows.contains(w))
+            windows.append(w);
     struct Cookies {
+        xcb_get_property_cookie_t pid;
+        xcb_get_property_cookie_t wmClass;
         xcb_get_window_attributes_cookie_t attributes;
         xcb_get_geometry_cookie_t geometry;
         xcb_translate_coordinates_cookie_t origin;
-        xcb_get_property_cookie_t pid;
         xcb_get_property_cookie_t type;
         xcb_get_property_cookie_t state;
         xcb_get_property_cookie_t extents;
@@ -130,55 +134,61 @@ QList<OnScreenWindow> onScreenWindows(const X11Session& s, bool withTitles)
         xcb_get_property_cookie_t name;
     };
     std::vector<Cookies> cookies;
-    cookies.reserve(windows.size());
-    for (const xcb_window_t w : windows) {
+    cookies.reserve(size_t(windows.size()));
+    for (const xcb_window_t w : std::as_const(windows)) {
         Cookies k{};
+        k.pid = cardinalProperty(s, w, e->_NET_WM_PID);
+        k.wmClass = xcb_get_property(c, 0, w, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 256);
         k.attributes = xcb_get_window_attributes(c, w);
         k.geometry = xcb_get_geometry(c, w);
         k.origin = xcb_translate_coordinates(c, w, s.root(), 0, 0);
-        k.pid = cardinalProperty(s, w, e->_NET_WM_PID);
         k.type = xcb_get_property(c, 0, w, e->_NET_WM_WINDOW_TYPE, XCB_ATOM_ATOM, 0, 32);
         k.state = xcb_get_property(c, 0, w, e->_NET_WM_STATE, XCB_ATOM_ATOM, 0, 32);
         k.extents = xcb_get_property(c, 0, w, e->_NET_FRAME_EXTENTS, XCB_ATOM_CARDINAL, 0, 4);
         k.desktop = cardinalProperty(s, w, e->_NET_WM_DESKTOP);
-        if (withTitles) {
-            k.netName = xcb_get_property(c, 0, w, e->_NET_WM_NAME, e->UTF8_STRING, 0, 1024);
-            k.name = xcb_get_property(c, 0, w, XCB_ATOM_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);
-        }
+        k.netName = xcb_get_property(c, 0, w, e->_NET_WM_NAME, e->UTF8_STRING, 0, 1024);
+        k.name = xcb_get_property(c, 0, w, XCB_ATOM_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);
         cookies.push_back(k);
     }
 
-    QList<OnScreenWindow> result;
-    result.reserve(windows.size());
+    QHash<xcb_window_t, OnScreenWindow> onScreen;
     // Every reply is collected, also for windows that turn out to be off screen, so none is left queued.
     for (qsizetype i = 0; i < windows.size(); ++i) {
-        const Cookies& k = cookies[static_cast<size_t>(i)];
+        const Cookies& k = cookies[size_t(i)];
+        const xcb_window_t w = windows[i];
+        const std::optional<uint32_t> pid = cardinalReply(s, k.pid);
+        auto classReply = fetch(xcb_get_property_reply, c, k.wmClass);
         auto attributes = fetch(xcb_get_window_attributes_reply, c, k.attributes);
         auto geometry = fetch(xcb_get_geometry_reply, c, k.geometry);
         auto origin = fetch(xcb_translate_coordinates_reply, c, k.origin);
-        const std::optional<uint32_t> pid = cardinalReply(s, k.pid);
         const QList<xcb_atom_t> types = atomListReply(s, k.type);
         const QList<xcb_atom_t> states = atomListReply(s, k.state);
         const QList<xcb_atom_t> extents = atomListReply(s, k.extents);
         const std::optional<uint32_t> desktop = cardinalReply(s, k.desktop);
-        std::optional<QString> title;
-        if (withTitles) {
-            auto netName = fetch(xcb_get_property_reply, c, k.netName);
-            auto name = fetch(xcb_get_property_reply, c, k.name);
-            if (const QByteArray bytes = X11Session::propertyBytes(netName.get()); !bytes.isEmpty())
-                title = QString::fromUtf8(bytes);
-            else if (const QByteArray legacy = X11Session::propertyBytes(name.get()); !legacy.isEmpty())
-                title = name->type == e->UTF8_STRING ? QString::fromUtf8(legacy) : QString::fromLatin1(legacy);
+        auto netName = fetch(xcb_get_property_reply, c, k.netName);
+        auto name = fetch(xcb_get_property_reply, c, k.name);
+
+        if (clientList.contains(w)) {
+            Client client;
+            client.window = w;
+            client.pid = static_cast<qint32>(pid.value_or(0));
+            // WM_CLASS is "instance\0class\0".
+            const QList<QByteArray> parts = X11Session::propertyBytes(classReply.get()).split('\0');
+            client.wmInstance = QString::fromLocal8Bit(parts.value(0));
+            client.wmClass = QString::fromLocal8Bit(parts.value(1));
+            if (!active.isEmpty() && active.first() == w)
+                result.clients.activePid = client.pid;
+            result.clients.clients.append(client);
         }
 
-        if (!attributes || !geometry || !origin || !pid || *pid == 0)
+        if (!stacking.contains(w) || !attributes || !geometry || !origin || !pid || *pid == 0)
             continue;
         if (attributes->map_state != XCB_MAP_STATE_VIEWABLE || states.contains(e->_NET_WM_STATE_HIDDEN))
             continue;
         if (currentDesktop && desktop && *desktop != 0xFFFFFFFF && *desktop != *currentDesktop)
             continue;
         OnScreenWindow window;
-        window.window = windows[i];
+        window.window = w;
         window.pid = static_cast<qint32>(*pid);
         const double left = extents.size() == 4 ? extents[0] : 0;
         const double right = extents.size() == 4 ? extents[1] : 0;
@@ -187,47 +197,17 @@ QList<OnScreenWindow> onScreenWindows(const X11Session& s, bool withTitles)
         window.frame = QRectF(origin->dst_x - left, origin->dst_y - top, geometry->width + left + right,
                               geometry->height + top + bottom);
         window.layer = layerFor(s, types);
-        window.title = title;
-        result.append(window);
+        if (const QByteArray bytes = X11Session::propertyBytes(netName.get()); !bytes.isEmpty())
+            window.title = QString::fromUtf8(bytes);
+        else if (const QByteArray legacy = X11Session::propertyBytes(name.get()); !legacy.isEmpty())
+            window.title = name->type == e->UTF8_STRING ? QString::fromUtf8(legacy) : QString::fromLatin1(legacy);
+        onScreen.insert(w, window);
     }
-    std::reverse(result.begin(), result.end());
+    for (auto it = stacking.crbegin(); it != stacking.crend(); ++it) {
+        if (const auto found = onScreen.constFind(*it); found != onScreen.constEnd())
+            result.onScreenWindows.append(*found);
+    }
     return result;
-}
-
-QRectF primaryScreenFrame(const X11Session& s)
-{
-    xcb_connection_t* c = s.connection();
-    const QRectF whole(0, 0, s.screen()->width_in_pixels, s.screen()->height_in_pixels);
-    const xcb_query_extension_reply_t* randr = xcb_get_extension_data(c, &xcb_randr_id);
-    if (randr == nullptr || !randr->present)
-        return whole;
-    // Monitors are what desktops lay out (and what a split screen shows as several); the primary one first.
-    auto monitors = fetch(xcb_randr_get_monitors_reply, c, xcb_randr_get_monitors(c, s.root(), 1));
-    if (!monitors)
-        return whole;
-    std::optional<QRectF> first;
-    for (auto it = xcb_randr_get_monitors_monitors_iterator(monitors.get()); it.rem > 0;
-         xcb_randr_monitor_info_next(&it)) {
-        const xcb_randr_monitor_info_t* m = it.data;
-        const QRectF frame(m->x, m->y, m->width, m->height);
-        if (m->primary)
-            return frame;
-        if (!first)
-            first = frame;
-    }
-    return first.value_or(whole);
-}
-
-std::optional<quint32> millisecondsSinceInput(const X11Session& s)
-{
-    xcb_connection_t* c = s.connection();
-    const xcb_query_extension_reply_t* saver = xcb_get_extension_data(c, &xcb_screensaver_id);
-    if (saver == nullptr || !saver->present)
-        return std::nullopt;
-    auto info = fetch(xcb_screensaver_query_info_reply, c, xcb_screensaver_query_info(c, s.root()));
-    if (!info)
-        return std::nullopt;
-    return info->ms_since_user_input;
 }
 
 } // namespace velto::X11Queries

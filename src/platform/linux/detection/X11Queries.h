@@ -10,9 +10,9 @@
 
 namespace velto {
 
-// The requests the X11 providers make. Each sends all of its requests before it waits for the first reply,
-// so a pass costs a few round trips however many windows there are. A window that vanishes between two
-// requests simply drops out of the answer.
+// The requests the X11 providers make: everything a detection pass may ask, in two round trips however many
+// windows there are (each batch is sent whole before the first reply is awaited). A window that vanishes
+// between two requests simply drops out of the answer.
 namespace X11Queries {
 
 // Window layers in the numbers the detection rules compare: 0 is the normal application layer.
@@ -50,13 +50,17 @@ struct OnScreenWindow {
     std::optional<QString> title;
 };
 
-[[nodiscard]] Clients clients(const X11Session& session);
-// Managed windows that are mapped, not minimised and on the current desktop, front to back.
-[[nodiscard]] QList<OnScreenWindow> onScreenWindows(const X11Session& session, bool withTitles);
-// The primary RandR monitor, else the first lit output, else the whole root window.
-[[nodiscard]] QRectF primaryScreenFrame(const X11Session& session);
-// Milliseconds since the last input the server saw; none without the MIT-SCREEN-SAVER extension.
-[[nodiscard]] std::optional<quint32> millisecondsSinceInput(const X11Session& session);
+struct Snapshot {
+    Clients clients;
+    // Managed windows that are mapped, not minimised and on the current desktop, front to back, with titles.
+    QList<OnScreenWindow> onScreenWindows;
+    // The primary RandR monitor, else the first one, else the whole root window.
+    QRectF primaryScreenFrame;
+    // Milliseconds since the last input the server saw; none without the MIT-SCREEN-SAVER extension.
+    std::optional<quint32> millisecondsSinceInput;
+};
+
+[[nodiscard]] Snapshot snapshot(const X11Session& session);
 
 } // namespace X11Queries
 } // namespace velto

@@ -1,6 +1,7 @@
 #include "X11Session.h"
 
 #include "LogOnce.h"
+#include "X11Queries.h"
 
 #include <cstdlib>
 
@@ -76,6 +77,34 @@ std::shared_ptr<X11Session> X11Link::session(const LogOnce& log) const
         log.warn(u"x11-open"_s, u"Cannot connect to the X server %1; window and idle queries answer nothing"_s.arg(
                                     QString::fromLocal8Bit(m_display)));
     return m_session;
+}
+
+std::shared_ptr<const X11Queries::Snapshot> X11Link::snapshot(const LogOnce& log) const
+{
+    QMutexLocker lock(&m_passMutex);
+    if (m_passSnapshot)
+        return m_passSnapshot;
+    const auto current = session(log);
+    if (!current)
+        return nullptr;
+    auto fresh = std::make_shared<const X11Queries::Snapshot>(X11Queries::snapshot(*current));
+    if (m_inPass)
+        m_passSnapshot = fresh;
+    return fresh;
+}
+
+void X11Link::beginPass()
+{
+    QMutexLocker lock(&m_passMutex);
+    m_inPass = true;
+    m_passSnapshot.reset();
+}
+
+void X11Link::endPass()
+{
+    QMutexLocker lock(&m_passMutex);
+    m_inPass = false;
+    m_passSnapshot.reset();
 }
 
 } // namespace velto

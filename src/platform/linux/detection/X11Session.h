@@ -13,6 +13,9 @@
 namespace velto {
 
 class LogOnce;
+namespace X11Queries {
+struct Snapshot;
+}
 
 // One connection to the X server with the EWMH atoms resolved, shared by the X11 providers. xcb connections
 // may be used from several threads at once, so the providers send their requests from the detection
@@ -56,10 +59,20 @@ public:
 
     [[nodiscard]] std::shared_ptr<X11Session> session(const LogOnce& log) const;
 
+    // What the providers ask the server, all at once; null without a session. Between beginPass and endPass
+    // it is asked once and shared, so a detection pass costs two round trips however many providers ask
+    // (fewer wake-ups of the server and of the detection thread); outside a pass every call asks afresh.
+    [[nodiscard]] std::shared_ptr<const X11Queries::Snapshot> snapshot(const LogOnce& log) const;
+    void beginPass();
+    void endPass();
+
 private:
     QByteArray m_display;
     mutable QMutex m_mutex;
     mutable std::shared_ptr<X11Session> m_session;
+    mutable QMutex m_passMutex;
+    bool m_inPass = false;
+    mutable std::shared_ptr<const X11Queries::Snapshot> m_passSnapshot;
 };
 
 // A reply that frees itself.
