@@ -166,7 +166,8 @@ int main(int argc, char* argv[])
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
     std::printf("sound server: %s, media server: %s\n", pulse ? "PulseAudio" : "none", pipewire ? "PipeWire" : "none");
 
-    const DetectionProviders providers = makeSystemDetectionProviders();
+    const SystemDetection detection = makeSystemDetection();
+    const DetectionProviders& providers = detection.providers;
     SmartPauseSettings settings;
     settings.videoDetectionMode = VideoDetectionMode::IncludeBackground;
     settings.deepFocusApps = {

@@ -377,6 +377,8 @@ ControlStatus AppDelegate::controlStatus() const
         status.pauseReason = rawName(reason->kind);
     status.breaksToday = int(m_breakManager->dailyBreakCount());
     status.enabled = m_settingsManager->isEnabled();
+    if (m_services.detectionSources)
+        status.detection = m_services.detectionSources();
     return status;
 }
 

@@ -10,6 +10,9 @@
 #include "settings/UserDefaultsStore.h"
 #include "windows/LazyWindows.h"
 
+#include <QVariantMap>
+
+#include <functional>
 #include <memory>
 
 namespace velto {
@@ -22,6 +25,8 @@ struct AppServices {
     std::unique_ptr<LaunchAtLoginControlling> launchAtLogin;
     DetectionProviders detectionProviders;
     std::unique_ptr<KeyDownTimeProviding> keyDownTime;
+    // Which mechanism answers each detection capability in this session, for the status report; none in tests.
+    std::function<QVariantMap()> detectionSources;
     std::unique_ptr<SoundPlaying> sounds;
     std::unique_ptr<ScreenLocking> screenLock;
     std::unique_ptr<SystemSleepSignals> sleepSignals;

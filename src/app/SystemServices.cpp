@@ -21,9 +21,11 @@ AppServices AppServices::system()
         std::make_unique<XdgAutostartEntry>(QCoreApplication::applicationFilePath()));
     // One index of installed applications serves detection and the settings window.
     auto desktopEntries = std::make_shared<DesktopEntryIndex>();
-    services.detectionProviders = makeSystemDetectionProviders(desktopEntries);
+    SystemDetection detection = makeSystemDetection(desktopEntries);
+    services.detectionProviders = std::move(detection.providers);
+    services.keyDownTime = std::move(detection.keyDownTime);
+    services.detectionSources = std::move(detection.sources);
     services.applicationInfo = std::make_unique<DesktopApplicationInfo>(desktopEntries);
-    services.keyDownTime = makeSystemKeyDownTime();
     // Windows and chimes come from their module, loaded when the first of them is due.
     services.windows = veltoWindows;
     services.sounds = std::make_unique<LazySoundPlayer>(services.windows);

@@ -142,8 +142,13 @@ private Q_SLOTS:
     void statusAsJson()
     {
         startInstance();
-        m_target.status = {
-            u"12:00  Paused · resumes in 15 min"_s, u"12:00"_s, u"paused"_s, u"manuallyPaused"_s, 2, true};
+        m_target.status = {u"12:00  Paused · resumes in 15 min"_s,
+                           u"12:00"_s,
+                           u"paused"_s,
+                           u"manuallyPaused"_s,
+                           2,
+                           true,
+                           {{u"windows"_s, u"kde-plasma-window-management"_s}, {u"typing"_s, u"input-activity"_s}}};
         Outcome outcome = run({u"status"_s, u"--json"_s});
         QCOMPARE(outcome.exitCode, ExitCode::success);
         QVERIFY(outcome.out.endsWith(u'\n'));
@@ -156,7 +161,9 @@ private Q_SLOTS:
                                     {u"state"_s, u"paused"_s},
                                     {u"pauseReason"_s, u"manuallyPaused"_s},
                                     {u"breaksToday"_s, 2},
-                                    {u"enabled"_s, true}}));
+                                    {u"enabled"_s, true},
+                                    {u"detection"_s, QJsonObject{{u"windows"_s, u"kde-plasma-window-management"_s},
+                                                                 {u"typing"_s, u"input-activity"_s}}}}));
 
         // No pause reason is null, not an empty string.
         m_target.status = {u"Ready"_s, u"—"_s, u"idle"_s, {}, 0, true};

@@ -70,7 +70,13 @@ private Q_SLOTS:
     void statusTravelsAsAMapOfTheRecord()
     {
         FakeControlTarget target;
-        target.status = {u"24:59  Until next break"_s, u"24:59"_s, u"working"_s, {}, 3, true};
+        target.status = {u"24:59  Until next break"_s,
+                         u"24:59"_s,
+                         u"working"_s,
+                         {},
+                         3,
+                         true,
+                         QVariantMap{{u"windows"_s, u"wlr-foreign-toplevel"_s}, {u"idle"_s, u"ext-idle-notify"_s}}};
         const auto service = serve(target);
         QVERIFY(service);
         const QDBusMessage reply = callService(u"status"_s);

@@ -170,6 +170,7 @@ QString ControlClient::statusJson(const ControlStatus& status)
         {u"pauseReason"_s, status.pauseReason.isEmpty() ? QJsonValue(QJsonValue::Null) : status.pauseReason},
         {u"breaksToday"_s, status.breaksToday},
         {u"enabled"_s, status.enabled},
+        {u"detection"_s, QJsonObject::fromVariantMap(status.detection)},
     };
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
 }

@@ -1,5 +1,8 @@
 #include "ControlTarget.h"
 
+#include <QDBusArgument>
+#include <QDBusMetaType>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
@@ -9,6 +12,7 @@ QVariantMap ControlStatus::toVariantMap() const
     return {
         {u"statusLine"_s, statusLine},   {u"timeText"_s, timeText},       {u"state"_s, state},
         {u"pauseReason"_s, pauseReason}, {u"breaksToday"_s, breaksToday}, {u"enabled"_s, enabled},
+        {u"detection"_s, detection},
     };
 }
 
@@ -28,6 +32,12 @@ ControlStatus ControlStatus::fromVariantMap(const QVariantMap& map)
     status.breaksToday = ok ? count : 0;
     const QVariant enabled = map.value(u"enabled"_s);
     status.enabled = enabled.typeId() == QMetaType::Bool && enabled.toBool();
+    // A map inside the bus's a{sv} arrives still marshalled.
+    const QVariant detection = map.value(u"detection"_s);
+    if (detection.canConvert<QDBusArgument>())
+        status.detection = qdbus_cast<QVariantMap>(detection.value<QDBusArgument>());
+    else if (detection.typeId() == QMetaType::QVariantMap)
+        status.detection = detection.toMap();
     return status;
 }
 

@@ -25,6 +25,9 @@ public:
     QString pauseReason; // "manuallyPaused", "outsideOfficeHours", "appDisabled", "smartActivity"; empty for none
     int breaksToday = 0;
     bool enabled = false;
+    // Which mechanism answers each Smart Pause capability in this session ("windows" → "wlr-foreign-toplevel"),
+    // for bug reports.
+    QVariantMap detection;
 
     // The record as it travels on the bus (a{sv}, keyed by the field names). Missing or mistyped entries read
     // back as the defaults, so an older or newer peer never makes the client fail.

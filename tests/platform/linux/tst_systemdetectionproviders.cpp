@@ -19,20 +19,21 @@ void TestSystemDetectionProviders::theFactoryAnswersForThisSession()
     const QByteArray display = qgetenv("DISPLAY");
     qputenv("DISPLAY", m_desktop.display().toLocal8Bit());
     {
-        const DetectionProviders providers = makeSystemDetectionProviders(m_entries);
-        QVERIFY(providers.isComplete());
-        const auto keys = makeSystemKeyDownTime();
-        QVERIFY(dynamic_cast<const X11KeyDownTime*>(keys.get()));
-        QCOMPARE(providers.screen->mainScreenFrame(), QRectF(0, 0, 1920, 1080));
+        const SystemDetection detection = makeSystemDetection(m_entries);
+        QVERIFY(detection.providers.isComplete());
+        QVERIFY(dynamic_cast<const X11KeyDownTime*>(detection.keyDownTime.get()));
+        QCOMPARE(detection.providers.screen->mainScreenFrame(), QRectF(0, 0, 1920, 1080));
+        QCOMPARE(detection.sources().value(u"typing"_s), u"x11-xinput2"_s);
     }
     qunsetenv("DISPLAY");
     {
         MessageCapture capture;
-        const DetectionProviders providers = makeSystemDetectionProviders(m_entries);
+        const SystemDetection detection = makeSystemDetection(m_entries);
+        const DetectionProviders& providers = detection.providers;
         QVERIFY(providers.isComplete());
-        const auto keys = makeSystemKeyDownTime();
-        QVERIFY(keys);
-        QCOMPARE(keys->secondsSinceLastKeyDown(), std::nullopt);
+        QVERIFY(detection.keyDownTime);
+        QCOMPARE(detection.keyDownTime->secondsSinceLastKeyDown(), std::nullopt);
+        QCOMPARE(detection.sources().value(u"windows"_s), u"none"_s);
         QVERIFY(providers.windowList->onScreenWindows().isEmpty());
         QCOMPARE(providers.screen->mainScreenFrame(), QRectF());
         // Without a display nothing is tried, so nothing fails.

@@ -80,13 +80,20 @@ bool SystemVideoPlayback::isPlaying(const QString& bundleIdentifier) const
 
 SystemScreenRecordingState::SystemScreenRecordingState(std::shared_ptr<X11Link> x11,
                                                        std::shared_ptr<PipeWireCapture> capture)
-    : m_windows(std::move(x11))
+    : SystemScreenRecordingState(
+          [windows = std::make_shared<SystemWindowList>(std::move(x11))] { return windows->titledWindows(); },
+          std::move(capture))
+{}
+
+SystemScreenRecordingState::SystemScreenRecordingState(ScreenRecordingRule::WindowTitles titles,
+                                                       std::shared_ptr<PipeWireCapture> capture)
+    : m_titles(std::move(titles))
     , m_capture(std::move(capture))
 {}
 
 bool SystemScreenRecordingState::isScreenRecording(const QList<AppSnapshot>& runningApplications) const
 {
-    const ScreenRecordingRule titles([this] { return m_windows.titledWindows(); });
+    const ScreenRecordingRule titles(m_titles);
     if (titles.isScreenRecording(runningApplications))
         return true;
     return m_capture && m_capture->isCapturing();
@@ -100,13 +107,18 @@ SystemAppCategory::SystemAppCategory(std::shared_ptr<AppIdentityResolver> identi
 
 std::optional<QString> SystemAppCategory::category(qint32 processIdentifier) const
 {
-    if (processIdentifier <= 0)
+    if (processIdentifier == 0)
         return std::nullopt;
-    const auto steamApp = m_identities->processes().environmentValue(processIdentifier, "SteamAppId");
-    if (steamApp && !steamApp->isEmpty() && *steamApp != "0")
-        return u"Game;"_s;
+    // A negative number stands for a Wayland app_id with no known process: only its desktop file can tell.
+    if (processIdentifier > 0) {
+        const auto steamApp = m_identities->processes().environmentValue(processIdentifier, "SteamAppId");
+        if (steamApp && !steamApp->isEmpty() && *steamApp != "0")
+            return u"Game;"_s;
+    }
     const WindowClassMemo::Classes classes = m_memo->classes(processIdentifier);
-    const auto entry = m_identities->desktopEntry(processIdentifier, classes.instance, classes.windowClass);
+    const auto entry = processIdentifier > 0
+                           ? m_identities->desktopEntry(processIdentifier, classes.instance, classes.windowClass)
+                           : m_identities->desktopEntries().entryForWindowClass(classes.windowClass);
     if (!entry || entry->categories.isEmpty())
         return std::nullopt;
     return entry->categories.join(u';') + u';';

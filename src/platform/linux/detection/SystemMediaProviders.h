@@ -39,11 +39,13 @@ private:
 class SystemScreenRecordingState final : public ScreenRecordingStateProviding {
 public:
     SystemScreenRecordingState(std::shared_ptr<X11Link> x11, std::shared_ptr<PipeWireCapture> capture);
+    // Titles from elsewhere (a Wayland session's toplevels).
+    SystemScreenRecordingState(ScreenRecordingRule::WindowTitles titles, std::shared_ptr<PipeWireCapture> capture);
 
     [[nodiscard]] bool isScreenRecording(const QList<AppSnapshot>& runningApplications) const override;
 
 private:
-    SystemWindowList m_windows;
+    ScreenRecordingRule::WindowTitles m_titles;
     std::shared_ptr<PipeWireCapture> m_capture;
 };
 

@@ -31,6 +31,12 @@ public:
         QMutexLocker lock(&m_mutex);
         m_classes = std::move(classes);
     }
+    // Adds the classes of another window list (a Wayland session's app_ids) to the latest X11 one.
+    void merge(const QHash<qint32, Classes>& classes)
+    {
+        QMutexLocker lock(&m_mutex);
+        m_classes.insert(classes);
+    }
     [[nodiscard]] Classes classes(qint32 pid) const
     {
         QMutexLocker lock(&m_mutex);
