@@ -73,6 +73,16 @@ WaylandWorkspace::WaylandWorkspace(std::shared_ptr<ToplevelSource> toplevels,
     , m_memo(std::move(memo))
 {}
 
+std::optional<QString> WaylandWorkspace::resolve(const WaylandToplevel& toplevel) const
+{
+    // The app_id is what a window class is on X11: the desktop file's ID or its StartupWMClass. Unlike a window
+    // class it is meant to be a desktop file ID, so where no installed file names it, it stands as given.
+    std::optional<QString> identity = m_identities->identity(std::max(toplevel.pid, 0), toplevel.appId, toplevel.appId);
+    if (identity && !toplevel.appId.isEmpty() && *identity == toplevel.appId.toLower())
+        identity = toplevel.appId;
+    return identity;
+}
+
 QList<AppSnapshot> WaylandWorkspace::runningApplications() const
 {
     // The X11 side first: it renews the window-class memo, to which the Wayland windows are then added.
@@ -98,11 +108,7 @@ QList<AppSnapshot> WaylandWorkspace::runningApplications() const
         }
         const QPair<qint32, QString> key(toplevel.pid, toplevel.appId);
         const auto found = known.constFind(key);
-        // The app_id is what a window class is on X11: the desktop file's ID or its StartupWMClass.
-        const std::optional<QString> identity =
-            found != known.constEnd()
-                ? *found
-                : m_identities->identity(std::max(toplevel.pid, 0), toplevel.appId, toplevel.appId);
+        std::optional<QString> identity = found != known.constEnd() ? *found : resolve(toplevel);
         identities.insert(key, identity);
         classes.insert(toplevel.pid, {toplevel.appId, toplevel.appId});
         indexOfProcess.insert(toplevel.pid, applications.size());

@@ -68,6 +68,8 @@ public:
     [[nodiscard]] QList<AppSnapshot> runningApplications() const override;
 
 private:
+    [[nodiscard]] std::optional<QString> resolve(const WaylandToplevel& toplevel) const;
+
     std::shared_ptr<ToplevelSource> m_toplevels;
     std::unique_ptr<WorkspaceProviding> m_fallback;
     std::shared_ptr<AppIdentityResolver> m_identities;
