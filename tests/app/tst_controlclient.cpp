@@ -121,7 +121,7 @@ private Q_SLOTS:
     void statusShowsTheLineAndEachField()
     {
         startInstance();
-        m_target.status = {u"24:59  Until next break"_s, u"24:59"_s, u"working"_s, {}, 1, true};
+        m_target.status = {u"24:59  Until next break"_s, u"24:59"_s, u"working"_s, {}, 1, true, {}};
         Outcome outcome = run({u"status"_s});
         QCOMPARE(outcome.exitCode, ExitCode::success);
         QCOMPARE(outcome.err, QString());
@@ -132,7 +132,7 @@ private Q_SLOTS:
                               u"Breaks today: 1\n"
                               u"Reminders:    on\n"_s);
 
-        m_target.status = {u"Breaks disabled"_s, u"—"_s, u"idle"_s, u"appDisabled"_s, 4, false};
+        m_target.status = {u"Breaks disabled"_s, u"—"_s, u"idle"_s, u"appDisabled"_s, 4, false, {}};
         outcome = run({u"status"_s});
         QVERIFY(outcome.out.contains(u"Pause reason: appDisabled\n"_s));
         QVERIFY(outcome.out.endsWith(u"Reminders:    off\n"_s));
@@ -166,7 +166,7 @@ private Q_SLOTS:
                                                                  {u"typing"_s, u"input-activity"_s}}}}));
 
         // No pause reason is null, not an empty string.
-        m_target.status = {u"Ready"_s, u"—"_s, u"idle"_s, {}, 0, true};
+        m_target.status = {u"Ready"_s, u"—"_s, u"idle"_s, {}, 0, true, {}};
         outcome = run({u"status"_s, u"--json"_s});
         json = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
         QVERIFY(json.value(u"pauseReason"_s).isNull());

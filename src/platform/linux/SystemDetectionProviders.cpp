@@ -4,6 +4,7 @@
 #include "detection/SystemMediaProviders.h"
 #include "detection/SystemX11Providers.h"
 #include "detection/X11KeyDownTime.h"
+#include "wayland/KWinScriptToplevels.h"
 #include "wayland/WaylandProviders.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -81,8 +82,19 @@ SystemDetection makeSystemDetection(std::shared_ptr<DesktopEntryIndex> desktopEn
     // only the input that goes to X clients, so idle time never comes from it here.
     const std::shared_ptr<WaylandLink> link = WaylandLink::connect();
     std::vector<std::shared_ptr<ToplevelSource>> candidates;
-    if (link)
+    if (link) {
         candidates.push_back(std::make_shared<WaylandLinkToplevels>(link));
+        // KWin without the grant: our script reports instead, started only where no protocol serves.
+        auto kwin = std::make_shared<KWinScriptToplevels>(bus, link);
+        candidates.push_back(kwin);
+        link->whenReady([link = link.get(), kwin = std::weak_ptr<KWinScriptToplevels>(kwin)] {
+            const auto script = kwin.lock();
+            if (!script || link->toplevels() != WaylandLink::Toplevels::None)
+                return;
+            QMetaObject::invokeMethod(
+                script.get(), [object = script.get()] { object->start(); }, Qt::QueuedConnection);
+        });
+    }
     auto toplevels = std::make_shared<FirstAvailableToplevels>(std::move(candidates));
     providers.workspace = std::make_unique<WaylandWorkspace>(
         toplevels,

@@ -3,6 +3,7 @@
 #include "MessageCapture.h"
 #include "SystemDetectionProviders.h"
 #include "detection/DetectionRules.h"
+#include "wayland/KWinScriptToplevels.h"
 #include "wayland/WaylandProviders.h"
 
 #include <QCoreApplication>
@@ -15,9 +16,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 struct FakeSource final : ToplevelSource {
-    FakeSource(QString n, bool available)
+    FakeSource(QString n, bool isUp)
         : sourceName(std::move(n))
-        , available(available)
+        , available(isUp)
     {}
     [[nodiscard]] bool isAvailable() const override { return available; }
     [[nodiscard]] QString name() const override { return sourceName; }
@@ -158,6 +159,34 @@ private Q_SLOTS:
         QVERIFY(!pass().isInMeeting);
         QTRY_VERIFY_WITH_TIMEOUT(providers.idleTime->secondsSinceLastInput() >= 2.5, 6000);
         QVERIFY(pass(2.5).isIdle);
+    }
+
+    // Without the grant, our KWin script reports KWin's windows over KWin's bus; the outputs come from our link.
+    void kwinWithoutTheGrantReportsThroughItsScript()
+    {
+        startSession(HeadlessCompositor::Kind::KWin, {}, /*expectWindows=*/false);
+        QDBusConnection kwinBus = QDBusConnection::connectToBus(m_compositor.busAddress(), u"kwin-bus"_s);
+        const auto link = WaylandLink::connect(m_compositor.socketPath().toLocal8Bit());
+        QVERIFY(link && link->waitUntilReady(5000));
+        QCOMPARE(link->toplevels(), WaylandLink::Toplevels::None);
+        {
+            KWinScriptToplevels script(kwinBus, link);
+            QVERIFY(script.start());
+            QProcess* game = open({u"--app-id"_s, u"com.example.Racer"_s, u"--title"_s, u"Racer"_s, u"--fullscreen"_s,
+                                   u"--output"_s, u"1"_s});
+            QVERIFY(game);
+            QTRY_VERIFY(script.isAvailable());
+            QTRY_COMPARE(script.facts().toplevels.size(), 1);
+            const WaylandToplevel racer = script.facts().toplevels.constFirst();
+            QCOMPARE(racer.appId, u"com.example.Racer"_s);
+            QCOMPARE(racer.title, u"Racer"_s);
+            QCOMPARE(racer.pid, qint32(game->processId()));
+            QVERIFY(racer.activated && racer.fullscreen);
+            QCOMPARE(racer.output, 1);
+            m_compositor.closeWindow(game);
+            QTRY_VERIFY(script.facts().toplevels.isEmpty());
+        }
+        QDBusConnection::disconnectFromBus(u"kwin-bus"_s);
     }
 
     // Without the grant KWin offers an ordinary client no window list, and Weston offers nothing at all: the

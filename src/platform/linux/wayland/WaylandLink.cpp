@@ -110,6 +110,7 @@ struct WaylandLink::State {
     bool inputIdle = false;
     QElapsedTimer idleSince;
     quint64 wakeUps = 0;
+    std::function<void()> onReady;
 
     void run();
     bool setUp();
@@ -546,12 +547,18 @@ bool WaylandLink::State::setUp()
         }
     }
     publish();
-    QMutexLocker lock(&mutex);
-    toplevelProtocol = toplevelSource;
-    idleProtocol = idleSource;
-    connected = true;
-    ready = true;
-    readyChanged.wakeAll();
+    std::function<void()> callback;
+    {
+        QMutexLocker lock(&mutex);
+        toplevelProtocol = toplevelSource;
+        idleProtocol = idleSource;
+        connected = true;
+        ready = true;
+        readyChanged.wakeAll();
+        callback = std::move(onReady);
+    }
+    if (callback)
+        callback();
     return true;
 }
 
@@ -669,6 +676,19 @@ bool WaylandLink::waitUntilReady(int milliseconds) const
             break;
     }
     return m_state->ready && !m_state->failed;
+}
+
+void WaylandLink::whenReady(std::function<void()> callback)
+{
+    {
+        QMutexLocker lock(&m_state->mutex);
+        if (!m_state->ready) {
+            if (!m_state->failed)
+                m_state->onReady = std::move(callback);
+            return;
+        }
+    }
+    callback();
 }
 
 bool WaylandLink::isConnected() const

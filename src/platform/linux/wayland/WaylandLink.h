@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -62,6 +63,9 @@ public:
     // to that many milliseconds for it. False for good when the compositor did not answer.
     bool waitUntilReady(int milliseconds) const;
     [[nodiscard]] bool isConnected() const;
+    // Runs once the first exchange is done (on the link's thread, or at once on the caller's when it already
+    // is); never when the compositor did not answer.
+    void whenReady(std::function<void()> callback);
 
     [[nodiscard]] Toplevels toplevels() const;
     [[nodiscard]] Idle idle() const;
