@@ -441,9 +441,14 @@ bool AppDelegate::openSettings()
         VeltoWindows* windows = m_services.windows ? m_services.windows() : nullptr;
         if (!windows)
             return false;
+        // What detection sees is asked each time the window opens; no sources tell nothing.
+        auto detectionSources = [this] {
+            return m_services.detectionSources ? m_services.detectionSources() : QVariantMap();
+        };
         m_settingsWindows = windows->makeSettingsWindows({m_services.screenLock.get(), m_activityDetector->workspace(),
                                                           m_services.applicationInfo.get(), m_updateAvailability,
-                                                          &m_services.userDefaults->writeState()});
+                                                          &m_services.userDefaults->writeState(), detectionSources,
+                                                          qEnvironmentVariable("XDG_CURRENT_DESKTOP")});
     }
     m_settingsWindows->showSettings(m_settingsManager, m_breakManager);
     return true;

@@ -1,5 +1,6 @@
 // Renders the six settings panes off screen, light and dark, for the README.
-// Usage: velto_screenshots_settings OUTPUT_DIR
+// Usage: velto_screenshots_settings OUTPUT_DIR [DESKTOP WINDOWS TYPING]
+// The optional three show the panes as on that desktop with those window and typing sources.
 #include "InMemoryUserDefaults.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
@@ -142,7 +143,14 @@ int main(int argc, char** argv)
     for (const bool dark : {false, true}) {
         QGuiApplication::setPalette(palette(dark));
         // A fresh controller per theme, so the palette is read afresh.
-        SettingsWindowController controller({&lock, &workspace, &applications, &updates});
+        SettingsWindowController::Collaborators collaborators{&lock, &workspace, &applications, &updates};
+        if (argc > 4) {
+            const QVariantMap sources{{u"windows"_s, QString::fromLocal8Bit(argv[3])},
+                                      {u"typing"_s, QString::fromLocal8Bit(argv[4])}};
+            collaborators.detectionSources = [sources] { return sources; };
+            collaborators.desktop = QString::fromLocal8Bit(argv[2]);
+        }
+        SettingsWindowController controller(collaborators);
         controller.showSettings(&settings, nullptr);
         QQuickWindow* window = controller.settingsWindow();
         if (!window) {

@@ -26,7 +26,7 @@ public:
 
     std::unique_ptr<SettingsWindows> makeSettingsWindows(SettingsCollaborators collaborators) override
     {
-        return std::make_unique<SettingsWindowController>(collaborators);
+        return std::make_unique<SettingsWindowController>(std::move(collaborators));
     }
 
     std::unique_ptr<SoundPlaying> makeSoundPlayer() override { return std::make_unique<AudioService>(); }

@@ -84,7 +84,9 @@ ColumnLayout {
             onEdited: on => pane.paneModel.setBreakField("delayWhileTyping", on)
         }
         Footnote {
+            objectName: "typingFootnote"
             text: "Pauses the work timer while you're typing so a break is less likely to interrupt you."
+                  + (pane.paneModel.typingCountsPointer ? " " + qsTr("Any keyboard or pointer input counts on this desktop.") : "")
         }
     }
 

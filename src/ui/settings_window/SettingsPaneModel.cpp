@@ -295,6 +295,14 @@ void SettingsPaneModel::setUpdateState(bool available, const QString& versionHin
     Q_EMIT updateChanged();
 }
 
+void SettingsPaneModel::setDetectionCoverage(const DetectionCoverage& coverage)
+{
+    if (coverage == m_detectionCoverage)
+        return;
+    m_detectionCoverage = coverage;
+    Q_EMIT detectionCoverageChanged();
+}
+
 QStringList SettingsPaneModel::optionLabels(Picker picker) const
 {
     auto titles = []<typename E>(const QList<E>& cases) {

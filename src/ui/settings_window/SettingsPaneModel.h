@@ -1,5 +1,6 @@
 #pragma once
 
+#include "detection/DetectionCoverage.h"
 #include "settings/SettingsManager.h"
 #include "settings/UserDefaultsStore.h"
 
@@ -52,6 +53,11 @@ class SettingsPaneModel final : public QObject {
     Q_PROPERTY(bool showLockScreenAlert READ showLockScreenAlert NOTIFY showLockScreenAlertChanged)
     // The last change could not be saved; the window says so until a later one is.
     Q_PROPERTY(bool saveFailed READ saveFailed NOTIFY saveFailedChanged)
+
+    // What this session cannot see and what would fix it (the Smart Pause pane); empty when nothing is missing.
+    Q_PROPERTY(QString detectionNotice READ detectionNotice NOTIFY detectionCoverageChanged)
+    // Typing is read as any input here, so the Breaks pane says the pointer counts too.
+    Q_PROPERTY(bool typingCountsPointer READ typingCountsPointer NOTIFY detectionCoverageChanged)
 
     Q_PROPERTY(bool updateAvailable READ updateAvailable NOTIFY updateChanged)
     Q_PROPERTY(QString updateNudgeText READ updateNudgeText NOTIFY updateChanged)
@@ -113,6 +119,10 @@ public:
     [[nodiscard]] bool saveFailed() const { return m_storeWriteState && m_storeWriteState->writeFailed(); }
     // Where the window learns that changes could not be written; none means they always could.
     void setStoreWriteState(const StoreWriteState* state);
+
+    [[nodiscard]] QString detectionNotice() const { return m_detectionCoverage.notice; }
+    [[nodiscard]] bool typingCountsPointer() const { return m_detectionCoverage.typingCountsPointer; }
+    void setDetectionCoverage(const DetectionCoverage& coverage);
 
     [[nodiscard]] bool updateAvailable() const { return m_updateAvailable; }
     [[nodiscard]] QString updateNudgeText() const;
@@ -189,6 +199,7 @@ Q_SIGNALS:
     void showLockScreenAlertChanged();
     void saveFailedChanged();
     void updateChanged();
+    void detectionCoverageChanged();
 
 private:
     void bumpRevision();
@@ -201,6 +212,7 @@ private:
     About m_about;
     int m_revision = 0;
     bool m_showLockScreenAlert = false;
+    DetectionCoverage m_detectionCoverage;
     bool m_updateAvailable = false;
     QString m_updateVersionHint;
 };

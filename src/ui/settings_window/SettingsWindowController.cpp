@@ -8,6 +8,7 @@
 #include "SettingsPaneModel.h"
 #include "UpdateAvailabilityModel.h"
 #include "VeltoUrls.h"
+#include "detection/DetectionCoverage.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 
@@ -28,7 +29,7 @@ namespace velto {
 
 SettingsWindowController::SettingsWindowController(Collaborators collaborators, QObject* parent)
     : QObject(parent)
-    , m_collaborators(collaborators)
+    , m_collaborators(std::move(collaborators))
 {}
 
 SettingsWindowController::~SettingsWindowController()
@@ -119,6 +120,9 @@ QQuickWindow* SettingsWindowController::buildWindow(SettingsManager* settingsMan
                                    QUrl(QString::fromLatin1(urls::website)), QString::fromLatin1(urls::contactAddress)};
     auto* paneModel = new SettingsPaneModel(settingsManager, m_collaborators.lock, about);
     paneModel->setStoreWriteState(m_collaborators.storeWriteState);
+    // Asked at each opening: a source can become available after start.
+    if (m_collaborators.detectionSources)
+        paneModel->setDetectionCoverage(detectionCoverage(m_collaborators.detectionSources(), m_collaborators.desktop));
     auto* focusAppModel =
         new AddFocusAppModel(settingsManager, m_collaborators.workspace, m_collaborators.applications);
     if (UpdateAvailabilityModel* updates = m_collaborators.updates) {

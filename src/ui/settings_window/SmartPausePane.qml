@@ -20,6 +20,28 @@ ColumnLayout {
         subtitle: "Let Velto adapt to what you're doing and pause breaks when it matters."
     }
 
+    // Shown only where this desktop hides something the switches below rely on.
+    RowLayout {
+        visible: pane.paneModel.detectionNotice !== ""
+        Layout.fillWidth: true
+        spacing: 8
+        SymbolIcon {
+            Layout.alignment: Qt.AlignTop
+            Layout.topMargin: 1
+            name: "info.circle"
+            size: 15
+            color: Theme.secondaryText
+        }
+        Label {
+            objectName: "detectionNotice"
+            Layout.fillWidth: true
+            text: pane.paneModel.detectionNotice
+            wrapMode: Text.WordWrap
+            color: Theme.secondaryText
+            font.pixelSize: Theme.footnoteSize + 1
+        }
+    }
+
     FormSection {
         title: "Activity Detection"
         SwitchRow {

@@ -2,6 +2,10 @@
 
 #include "settings/SettingsEnums.h"
 
+#include <QString>
+#include <QVariantMap>
+
+#include <functional>
 #include <memory>
 
 namespace velto {
@@ -48,6 +52,10 @@ public:
         ApplicationInfoProviding* applications = nullptr;
         UpdateAvailabilityModel* updates = nullptr;
         const StoreWriteState* storeWriteState = nullptr;
+        // Which mechanism serves each detection capability in this session, asked as the window opens, and the
+        // desktop's name (XDG_CURRENT_DESKTOP): the panes tell what these cannot see. None tells nothing.
+        std::function<QVariantMap()> detectionSources{};
+        QString desktop{};
     };
 
     virtual ~VeltoWindows() = default;

@@ -6,6 +6,7 @@
 #include "SettingsPaneModel.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
+#include "detection/DetectionCoverage.h"
 #include "settings/SettingsManager.h"
 
 #include <QQuickItem>
@@ -79,7 +80,9 @@ private:
         FakeWorkspace workspace;
         FakeApplicationInfo applications;
         UpdateAvailabilityModel updates;
-        SettingsWindowController controller{{&lock, &workspace, &applications, &updates, &store.writeState()}};
+        QVariantMap detectionSources;
+        SettingsWindowController controller{{&lock, &workspace, &applications, &updates, &store.writeState(),
+                                             [this] { return detectionSources; }, u"GNOME"_s}};
 
         QQuickWindow* open()
         {
@@ -400,6 +403,27 @@ private Q_SLOTS:
         emitSignal(add, "clicked");
         QTRY_VERIFY(!sheet->property("visible").toBool());
         QCOMPARE(f.settings.smartPauseSettings().deepFocusApps.size(), 1);
+    }
+
+    void whatThisDesktopCannotSeeIsToldWhereItMatters()
+    {
+        Fixture f;
+        f.detectionSources = {{u"windows"_s, u"x11"_s}, {u"typing"_s, u"x11-xinput2"_s}};
+        const QString typingNote =
+            u"Pauses the work timer while you're typing so a break is less likely to interrupt you."_s;
+        QQuickWindow* window = f.open();
+        QVERIFY(!isShown(f.pane(2)->findChild<QObject*>(u"detectionNotice"_s)));
+        QCOMPARE(f.pane(1)->findChild<QObject*>(u"typingFootnote"_s)->property("text").toString(), typingNote);
+
+        // Asked again at the next opening.
+        window->close();
+        f.detectionSources = {{u"windows"_s, u"none"_s}, {u"typing"_s, u"input-activity"_s}};
+        f.open();
+        QObject* notice = f.pane(2)->findChild<QObject*>(u"detectionNotice"_s);
+        QVERIFY(isShown(notice));
+        QCOMPARE(notice->property("text").toString(), detectionCoverage(f.detectionSources, u"GNOME"_s).notice);
+        QCOMPARE(f.pane(1)->findChild<QObject*>(u"typingFootnote"_s)->property("text").toString(),
+                 typingNote + u" Any keyboard or pointer input counts on this desktop."_s);
     }
 
     void aboutPaneChecksQuietlyEachTimeItIsShown()
