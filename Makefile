@@ -30,6 +30,7 @@ bench: build
 	$(BUILD_DIR)/bench/bench_overlay_show
 	$(BUILD_DIR)/bench/bench_notification_show
 	bench/footprint.sh $(BUILD_DIR)
+	dbus-run-session --config-file=tests/support/test-bus.conf -- $(BUILD_DIR)/bench/bench_wayland_session
 
 # The break screen at 1920×1080, the tray, the pre-break card and the settings panes, rendered without a display, into docs/screenshots.
 screenshots: build

@@ -97,7 +97,7 @@ SystemDetection makeSystemDetection(std::shared_ptr<DesktopEntryIndex> desktopEn
     }
     auto toplevels = std::make_shared<FirstAvailableToplevels>(std::move(candidates));
     providers.workspace = std::make_unique<WaylandWorkspace>(
-        toplevels,
+        toplevels, std::make_unique<SystemWorkspace>(x11, identities, memo, SystemWorkspace::Scope::WindowsOnly),
         std::make_unique<SystemWorkspace>(x11, identities, memo, SystemWorkspace::Scope::WindowsAndProcesses),
         identities, memo);
     providers.windowList = std::make_unique<WaylandWindowList>(toplevels, std::make_unique<SystemWindowList>(x11));

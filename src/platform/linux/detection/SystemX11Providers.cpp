@@ -59,7 +59,7 @@ QList<AppSnapshot> SystemWorkspace::runningApplications() const
         QMutexLocker lock(&m_refreshMutex);
         m_identityOfWindow = std::move(identities);
     }
-    if (!x11 || m_scope == Scope::WindowsAndProcesses)
+    if ((!x11 && m_scope != Scope::WindowsOnly) || m_scope == Scope::WindowsAndProcesses)
         appendInstalledApplications(applications);
     return applications;
 }

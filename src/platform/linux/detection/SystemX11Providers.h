@@ -54,7 +54,9 @@ private:
 // the user's processes follow, none of them active (Wayland tells no one which window is in front).
 class SystemWorkspace final : public WorkspaceProviding {
 public:
-    enum class Scope { Windows, WindowsAndProcesses };
+    // Windows: processes only without an X server. WindowsOnly: never processes (a Wayland session whose
+    // compositor lists the windows; Xwayland's are what this adds).
+    enum class Scope { Windows, WindowsAndProcesses, WindowsOnly };
     SystemWorkspace(std::shared_ptr<X11Link> x11, std::shared_ptr<AppIdentityResolver> identities,
                     std::shared_ptr<WindowClassMemo> memo = std::make_shared<WindowClassMemo>(),
                     Scope scope = Scope::Windows);

@@ -64,10 +64,12 @@ WaylandFacts FirstAvailableToplevels::facts() const
 }
 
 WaylandWorkspace::WaylandWorkspace(std::shared_ptr<ToplevelSource> toplevels,
+                                   std::unique_ptr<WorkspaceProviding> xwayland,
                                    std::unique_ptr<WorkspaceProviding> fallback,
                                    std::shared_ptr<AppIdentityResolver> identities,
                                    std::shared_ptr<WindowClassMemo> memo)
     : m_toplevels(std::move(toplevels))
+    , m_xwayland(std::move(xwayland))
     , m_fallback(std::move(fallback))
     , m_identities(std::move(identities))
     , m_memo(std::move(memo))
@@ -85,10 +87,10 @@ std::optional<QString> WaylandWorkspace::resolve(const WaylandToplevel& toplevel
 
 QList<AppSnapshot> WaylandWorkspace::runningApplications() const
 {
-    // The X11 side first: it renews the window-class memo, to which the Wayland windows are then added.
-    const QList<AppSnapshot> others = m_fallback->runningApplications();
     if (!m_toplevels->isAvailable())
-        return others;
+        return m_fallback->runningApplications();
+    // The X11 side first: it renews the window-class memo, to which the Wayland windows are then added.
+    const QList<AppSnapshot> others = m_xwayland->runningApplications();
     const WaylandFacts facts = m_toplevels->facts();
 
     QHash<QPair<qint32, QString>, std::optional<QString>> known;

@@ -57,13 +57,14 @@ private:
 };
 
 // The applications with Wayland windows, one per application in the compositor's order, the one owning the
-// activated toplevel active; then what the X11 workspace adds (Xwayland clients, applications running
-// without windows) where it names an application not already listed. Without toplevels, the X11 workspace's
-// answer as it stands.
+// activated toplevel active; then the Xwayland clients the X11 workspace names that are not already listed.
+// Without toplevels, the fallback's answer as it stands (Xwayland clients and the applications running as the
+// user's processes: the most a session that hides its windows can tell).
 class WaylandWorkspace final : public WorkspaceProviding {
 public:
-    WaylandWorkspace(std::shared_ptr<ToplevelSource> toplevels, std::unique_ptr<WorkspaceProviding> fallback,
-                     std::shared_ptr<AppIdentityResolver> identities, std::shared_ptr<WindowClassMemo> memo);
+    WaylandWorkspace(std::shared_ptr<ToplevelSource> toplevels, std::unique_ptr<WorkspaceProviding> xwayland,
+                     std::unique_ptr<WorkspaceProviding> fallback, std::shared_ptr<AppIdentityResolver> identities,
+                     std::shared_ptr<WindowClassMemo> memo);
 
     [[nodiscard]] QList<AppSnapshot> runningApplications() const override;
 
@@ -71,6 +72,7 @@ private:
     [[nodiscard]] std::optional<QString> resolve(const WaylandToplevel& toplevel) const;
 
     std::shared_ptr<ToplevelSource> m_toplevels;
+    std::unique_ptr<WorkspaceProviding> m_xwayland;
     std::unique_ptr<WorkspaceProviding> m_fallback;
     std::shared_ptr<AppIdentityResolver> m_identities;
     std::shared_ptr<WindowClassMemo> m_memo;
