@@ -1,7 +1,8 @@
 # Warnings, Qt hygiene and the optional sanitizer build, applied to every target.
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align
-                    -Woverloaded-virtual -Wimplicit-fallthrough)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wcast-align -Wimplicit-fallthrough
+                    # The C is generated protocol code; these concern C++ alone.
+                    "$<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor;-Wold-style-cast;-Woverloaded-virtual>")
 
 add_compile_definitions(
     QT_NO_KEYWORDS

@@ -52,6 +52,11 @@ int runClient(int argc, char* argv[], const velto::CommandLine& commandLine)
 int runApplication(int argc, char* argv[])
 {
     const bool headless = choosePlatform();
+    // Qt then gives a window marked to bypass the window manager no shell role of its own, so the break screen
+    // and the card can take a layer of the compositor's instead (where it offers layers; ordinary windows
+    // elsewhere). Read once, as Qt's Wayland connection is made.
+    if (!qEnvironmentVariableIsSet("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT"))
+        qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
     setApplicationIdentity();
     QApplication::setApplicationDisplayName(u"Velto"_s);
     QApplication::setDesktopFileName(u"com.velto.app"_s);

@@ -4,6 +4,7 @@
 #include "BreakWindow.h"
 #include "DesktopSettings.h"
 #include "FreedMemory.h"
+#include "LayerShell.h"
 #include "MainScreen.h"
 #include "NotificationWindowHints.h"
 #include "PreBreakNotificationHostingView.h"
@@ -241,8 +242,26 @@ void InAppNotificationWindowPresenter::show(std::shared_ptr<PreBreakNotification
     window->setGeometry(frame);
     card->setX(reduce ? 0 : -NotificationMotion::slideDistance);
     card->setOpacity(0);
-    window->create();
-    applyNotificationWindowHints(window);
+    // Where the compositor offers layers, the top layer at the output's top left, kept clear of panels and
+    // never given the keyboard: what the user types next still goes where it went.
+    bool placed = false;
+    if (LayerShell::isAvailable()) {
+        const Qt::WindowFlags ordinary = window->flags();
+        window->setFlags(ordinary | Qt::BypassWindowManagerHint);
+        const QRect area = screen->availableGeometry();
+        placed = LayerShell::place(window, screen,
+                                   {LayerShell::Layer::Top, Qt::TopEdge | Qt::LeftEdge,
+                                    QMargins(frame.left() - area.left(), frame.top() - area.top(), 0, 0), frame.size(),
+                                    false, 0});
+        if (!placed) {
+            window->destroy();
+            window->setFlags(ordinary);
+        }
+    }
+    if (!placed) {
+        window->create();
+        applyNotificationWindowHints(window);
+    }
     m_panel = window;
     window->show();
     window->raise();

@@ -4,6 +4,7 @@
 #include "BreakViewModel.h"
 #include "DesktopPicture.h"
 #include "FreedMemory.h"
+#include "LayerShell.h"
 #include "MainScreen.h"
 #include "scheduling/BreakEffects.h"
 #include "scheduling/BreakManager.h"
@@ -19,6 +20,7 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QScreen>
+#include <QSurfaceFormat>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -135,16 +137,31 @@ QQuickWindow* BreakWindow::makeBreakWindow(QScreen* screen, BreakType breakType)
     // Override-redirect on X11: the window manager neither decorates nor stacks it, so it lies above docks
     // and panels, on every workspace, and stays out of taskbars and pagers. Elsewhere (Wayland) a frameless
     // window kept on top and shown full screen is the most a client may ask for.
+    // Where the compositor offers layers, the overlay layer: above panels and docks, with the keyboard.
+    const bool layered = LayerShell::isAvailable();
     Qt::WindowFlags flags = Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
-    if (QGuiApplication::platformName() == u"xcb"_s)
+    if (layered || QGuiApplication::platformName() == u"xcb"_s)
         flags |= Qt::BypassWindowManagerHint;
     else
         flags |= Qt::Tool;
     window->setFlags(flags);
-    window->setColor(Qt::black);
+    if (QGuiApplication::platformName().startsWith(u"wayland"_s)) {
+        QSurfaceFormat format = window->format();
+        format.setAlphaBufferSize(8);
+        window->setFormat(format);
+        window->setColor(Qt::transparent);
+    } else {
+        window->setColor(Qt::black);
+    }
     if (screen) {
         window->setScreen(screen);
         window->setGeometry(screen->geometry());
+    }
+    if (layered &&
+        !LayerShell::place(window, screen, {LayerShell::Layer::Overlay, LayerShell::allEdges(), {}, {}, true})) {
+        // Not placed after all: the ordinary route, a window kept on top and shown full screen.
+        window->destroy();
+        window->setFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool);
     }
 
     auto* model = new BreakViewModel(m_settings, m_breakManager, breakType, m_imageSource);
@@ -180,15 +197,16 @@ void BreakWindow::show(BreakType breakType)
             continue;
         // Owned by the controller, yet a top-level window: no QWindow parent.
         static_cast<QObject*>(window)->setParent(this);
-        window->setOpacity(0);
-        if (QGuiApplication::platformName() == u"xcb"_s || QGuiApplication::platformName() == u"offscreen"_s)
+        fadeTarget(window)->setProperty("opacity", 0.0);
+        if (QGuiApplication::platformName() == u"xcb"_s || QGuiApplication::platformName() == u"offscreen"_s ||
+            LayerShell::isPlaced(window))
             window->show();
         else
             window->showFullScreen();
         window->raise();
         if (auto* model = window->findChild<BreakViewModel*>())
             model->start();
-        auto* fade = new QPropertyAnimation(window, "opacity", window);
+        auto* fade = new QPropertyAnimation(fadeTarget(window), "opacity", window);
         fade->setDuration(fadeMilliseconds);
         fade->setStartValue(0.0);
         fade->setEndValue(1.0);
@@ -209,14 +227,23 @@ void BreakWindow::hide()
         fadeOut(window);
 }
 
+QObject* BreakWindow::fadeTarget(QQuickWindow* window)
+{
+    // Wayland has no window opacity: there the content fades over a transparent window.
+    if (QGuiApplication::platformName().startsWith(u"wayland"_s))
+        return window->contentItem();
+    return window;
+}
+
 void BreakWindow::fadeOut(QQuickWindow* window)
 {
     // A fade-in still running would fight the fade-out.
     for (QPropertyAnimation* running : window->findChildren<QPropertyAnimation*>())
         running->stop();
-    auto* fade = new QPropertyAnimation(window, "opacity", window);
+    QObject* target = fadeTarget(window);
+    auto* fade = new QPropertyAnimation(target, "opacity", window);
     fade->setDuration(fadeMilliseconds);
-    fade->setStartValue(window->opacity());
+    fade->setStartValue(target->property("opacity"));
     fade->setEndValue(0.0);
     fade->setEasingCurve(QEasingCurve::InOutQuad);
     // The window finishes by itself, whatever show or hide comes next.

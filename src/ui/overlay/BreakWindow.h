@@ -69,6 +69,7 @@ public:
 private:
     QQmlEngine& engine();
     void fadeOut(QQuickWindow* window);
+    [[nodiscard]] static QObject* fadeTarget(QQuickWindow* window);
     void releaseBetweenBreaks();
 
     QPointer<SettingsManager> m_settings;
