@@ -3,6 +3,7 @@
 // servers if any, and whatever session bus the program runs on (`make bench` gives it a private one).
 // Prints the median (and 90th percentile) process CPU time and wall time per pass.
 // Usage: bench_system_providers [passes, default 200]
+#include "ProcessUsage.h"
 #include "SystemDetectionProviders.h"
 #include "XvfbDesktop.h"
 #include "detection/DetectionRules.h"
@@ -20,22 +21,11 @@
 #include <vector>
 
 using namespace velto;
+using bench::percentile;
+using bench::processCpuMilliseconds;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-double processCpuMilliseconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
-double percentile(std::vector<double> values, double fraction)
-{
-    std::sort(values.begin(), values.end());
-    return values[static_cast<size_t>(fraction * static_cast<double>(values.size() - 1))];
-}
 
 // A background server of the session (sound, media), stopped with the benchmark.
 std::unique_ptr<QProcess> startServer(const QString& program, const QStringList& arguments,

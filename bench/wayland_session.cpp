@@ -6,6 +6,7 @@
 //    measures it on X11, and what `velto status` says with a meeting app, then a fullscreen game, in front.
 // Usage: bench_wayland_session [passes, default 2000]
 #include "HeadlessCompositor.h"
+#include "ProcessUsage.h"
 #include "SystemDetectionProviders.h"
 #include "detection/DetectionRules.h"
 
@@ -23,22 +24,11 @@
 #include <vector>
 
 using namespace velto;
+using bench::percentile;
+using bench::processCpuMilliseconds;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-double processCpuMilliseconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
-}
-
-double percentile(std::vector<double> values, double fraction)
-{
-    std::sort(values.begin(), values.end());
-    return values[size_t(fraction * double(values.size() - 1))];
-}
 
 struct Usage {
     qint64 cpuTicks = 0;
