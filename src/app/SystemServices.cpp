@@ -1,6 +1,8 @@
 #include "AppServices.h"
 #include "DesktopApplicationInfo.h"
+#include "DesktopNotificationPresenter.h"
 #include "LaunchAtLoginService.h"
+#include "LayerShell.h"
 #include "SystemDetectionProviders.h"
 #include "SystemScreenLock.h"
 #include "SystemSleepSignals.h"
@@ -10,6 +12,9 @@
 #include "windows/WindowsModuleLoader.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 
@@ -29,6 +34,14 @@ AppServices AppServices::system()
     // Windows and chimes come from their module, loaded when the first of them is due.
     services.windows = veltoWindows;
     services.sounds = std::make_unique<LazySoundPlayer>(services.windows);
+    // Where no window of ours can be shown without taking the focus (a Wayland desktop without layers), the
+    // card comes as a desktop notification; asked at the first card, when the compositor is known.
+    services.notificationPresenter = std::make_unique<LazyNotificationPresenter>(
+        services.windows, []() -> std::unique_ptr<NotificationWindowPresenting> {
+            if (!QGuiApplication::platformName().startsWith(u"wayland"_s) || LayerShell::isAvailable())
+                return nullptr;
+            return DesktopNotificationPresenter::create(QDBusConnection::sessionBus());
+        });
     services.screenLock = std::make_unique<SystemScreenLock>();
     services.sleepSignals = std::make_unique<SystemSleepSignals>();
     services.runsUpdater = true;

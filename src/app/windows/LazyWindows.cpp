@@ -5,8 +5,9 @@
 
 namespace velto {
 
-LazyNotificationPresenter::LazyNotificationPresenter(WindowsSource windows)
+LazyNotificationPresenter::LazyNotificationPresenter(WindowsSource windows, PresenterSource instead)
     : m_windows(std::move(windows))
+    , m_instead(std::move(instead))
 {}
 
 LazyNotificationPresenter::~LazyNotificationPresenter() = default;
@@ -15,6 +16,8 @@ void LazyNotificationPresenter::show(std::shared_ptr<PreBreakNotificationDisplay
                                      std::function<void()> onBreakNow, std::function<void(double seconds)> onPause,
                                      std::function<void()> onSkip, std::function<void()> onDismiss)
 {
+    if (!m_presenter && m_instead)
+        m_presenter = std::exchange(m_instead, {})();
     if (!m_presenter && m_windows) {
         if (VeltoWindows* windows = m_windows())
             m_presenter = windows->makeNotificationPresenter();

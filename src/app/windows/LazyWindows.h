@@ -13,11 +13,14 @@ class VeltoWindows;
 // Hands out the windows when first needed; may answer null (no windows in this session).
 using WindowsSource = std::function<VeltoWindows*()>;
 
+// Another way to show the card, asked first; null to use the windows' card.
+using PresenterSource = std::function<std::unique_ptr<NotificationWindowPresenting>()>;
+
 // The pre-break card, asked of the windows on the first show. Until then, and when there are no windows,
 // nothing is loaded and a hide has nothing to do.
 class LazyNotificationPresenter final : public NotificationWindowPresenting {
 public:
-    explicit LazyNotificationPresenter(WindowsSource windows);
+    explicit LazyNotificationPresenter(WindowsSource windows, PresenterSource instead = {});
     ~LazyNotificationPresenter() override;
 
     void show(std::shared_ptr<PreBreakNotificationDisplayModel> displayModel, std::function<void()> onBreakNow,
@@ -27,6 +30,7 @@ public:
 
 private:
     WindowsSource m_windows;
+    PresenterSource m_instead;
     std::unique_ptr<NotificationWindowPresenting> m_presenter;
 };
 
