@@ -1,5 +1,6 @@
 #include "AppDelegate.h"
 
+#include "DesktopColorScheme.h"
 #include "StandardUpdaterController.h"
 #include "SystemSleepSignals.h"
 #include "SystemTrayHostWatch.h"
@@ -100,6 +101,8 @@ void AppDelegate::wireComponents()
 {
     const QPointer<AppDelegate> self(this);
     m_breakManager->setSettingsManager(m_settingsManager);
+    if (m_services.colorScheme)
+        m_services.colorScheme->start();
 
     if (auto* sleep = m_services.sleepSignals.get()) {
         connect(sleep, &SystemSleepSignals::willSleep, m_breakManager, &BreakManager::handleSleep);

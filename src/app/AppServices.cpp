@@ -1,5 +1,6 @@
 #include "AppServices.h"
 
+#include "DesktopColorScheme.h"
 #include "SystemSleepSignals.h"
 
 namespace velto {

@@ -17,6 +17,7 @@
 
 namespace velto {
 
+class DesktopColorScheme;
 class SystemSleepSignals;
 
 // What the shell takes from the platform. system() makes the real ones for this session; tests hand in fakes.
@@ -30,6 +31,8 @@ struct AppServices {
     std::unique_ptr<SoundPlaying> sounds;
     std::unique_ptr<ScreenLocking> screenLock;
     std::unique_ptr<SystemSleepSignals> sleepSignals;
+    // Follows the desktop's light or dark preference with the application's palette; none in tests.
+    std::unique_ptr<DesktopColorScheme> colorScheme;
     // The break screen, the card and the settings window; none (or a null answer) shows nothing.
     WindowsSource windows;
     // The pre-break card's window; when none is given the shell asks the windows for it on the first card.

@@ -1,5 +1,6 @@
 #include "AppServices.h"
 #include "DesktopApplicationInfo.h"
+#include "DesktopColorScheme.h"
 #include "DesktopNotificationPresenter.h"
 #include "LaunchAtLoginService.h"
 #include "LayerShell.h"
@@ -44,6 +45,7 @@ AppServices AppServices::system()
         });
     services.screenLock = std::make_unique<SystemScreenLock>();
     services.sleepSignals = std::make_unique<SystemSleepSignals>();
+    services.colorScheme = std::make_unique<DesktopColorScheme>(QDBusConnection::sessionBus());
     services.runsUpdater = true;
     return services;
 }
