@@ -7,6 +7,7 @@
 #include "SystemDetectionProviders.h"
 #include "SystemScreenLock.h"
 #include "SystemSleepSignals.h"
+#include "VeltoWindows.h"
 #include "XdgAutostartEntry.h"
 #include "settings/SettingsFileStore.h"
 #include "windows/LazyWindows.h"
@@ -32,8 +33,17 @@ AppServices AppServices::system()
     services.keyDownTime = std::move(detection.keyDownTime);
     services.detectionSources = std::move(detection.sources);
     services.applicationInfo = std::make_unique<DesktopApplicationInfo>(desktopEntries);
-    // Windows and chimes come from their module, loaded when the first of them is due.
+    // Windows and chimes come from their module, loaded when the first of them is due; on Wayland they learn
+    // where the focused window is from detection's own link.
     services.windows = veltoWindows;
+    if (detection.focusedOutput) {
+        services.windows = [focused = std::move(detection.focusedOutput), told = false]() mutable -> VeltoWindows* {
+            VeltoWindows* windows = veltoWindows();
+            if (windows && !std::exchange(told, true))
+                windows->setFocusedOutputSource(focused);
+            return windows;
+        };
+    }
     services.sounds = std::make_unique<LazySoundPlayer>(services.windows);
     // Where no window of ours can be shown without taking the focus (a Wayland desktop without layers), the
     // card comes as a desktop notification; asked at the first card, when the compositor is known.

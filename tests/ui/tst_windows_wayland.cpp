@@ -5,6 +5,7 @@
 #include "InAppNotificationWindowPresenter.h"
 #include "InMemoryUserDefaults.h"
 #include "LayerShell.h"
+#include "MainScreen.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
@@ -137,6 +138,21 @@ private Q_SLOTS:
         presenter.hide();
         QTRY_VERIFY_WITH_TIMEOUT(presenter.panel() == nullptr, 3000);
         QCOMPARE(swayFocus(), u"org.example.Editor"_s);
+
+        // With the focused window on the second output, the card goes there.
+        setFocusedOutputSource([] { return u"HEADLESS-2"_s; });
+        presenter.show(model, {}, {}, {}, {});
+        QVERIFY(presenter.panel() && QTest::qWaitForWindowExposed(presenter.panel()));
+        QTest::qWait(600);
+        const QImage second = screenshot(m_dir);
+        const QScreen* screen = QGuiApplication::screens().at(1);
+        QCOMPARE(screen->name(), u"HEADLESS-2"_s);
+        QVERIFY(
+            second.pixelColor(InAppNotificationWindowPresenter::finalFrame(screen->geometry()).center()).lightness() >
+            180);
+        presenter.hide();
+        QTRY_VERIFY_WITH_TIMEOUT(presenter.panel() == nullptr, 3000);
+        setFocusedOutputSource({});
     }
 
 private:

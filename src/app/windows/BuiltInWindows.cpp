@@ -1,6 +1,7 @@
 #include "AudioService.h"
 #include "BreakWindow.h"
 #include "InAppNotificationWindowPresenter.h"
+#include "MainScreen.h"
 #include "SettingsWindowController.h"
 #include "VeltoWindows.h"
 
@@ -30,6 +31,10 @@ public:
     }
 
     std::unique_ptr<SoundPlaying> makeSoundPlayer() override { return std::make_unique<AudioService>(); }
+    void setFocusedOutputSource(std::function<QString()> outputName) override
+    {
+        velto::setFocusedOutputSource(std::move(outputName));
+    }
 };
 
 } // namespace

@@ -113,6 +113,14 @@ SystemDetection makeSystemDetection(std::shared_ptr<DesktopEntryIndex> desktopEn
 
     detection.keyDownTime = std::make_unique<WaylandInputActivity>(link, std::move(x11Keys));
 
+    detection.focusedOutput = [toplevels] {
+        const WaylandFacts facts = toplevels->facts();
+        for (const WaylandToplevel& toplevel : facts.toplevels) {
+            if (toplevel.activated && toplevel.output >= 0 && toplevel.output < facts.outputs.size())
+                return facts.outputs.at(toplevel.output).name;
+        }
+        return QString();
+    };
     detection.sources = [link, toplevels, hasX, hearsX11Keys] {
         const QString idle = link ? idleSourceName(link->idle()) : QString();
         QString windows = toplevels->name();

@@ -24,6 +24,9 @@ struct SystemDetection {
     // Which mechanism answers each capability right now ("windows", "idle", "typing", "devices", "media",
     // "capture" → a short name, "none" where nothing can), for status reports and bug reports. Any thread.
     std::function<QVariantMap()> sources;
+    // The name of the output the focused window is on, where only our own compositor connection can tell
+    // (Wayland); none elsewhere, empty while unknown. Any thread.
+    std::function<QString()> focusedOutput;
 };
 
 // The desktop-file index is shared with whoever else names applications (pass one in, or a fresh one is read).

@@ -79,8 +79,29 @@ QScreen* screenHolding(const QRect& frame, const QList<QScreen*>& screens, QScre
     return best;
 }
 
+namespace {
+std::function<QString()>& focusedOutputSource()
+{
+    static std::function<QString()> source;
+    return source;
+}
+} // namespace
+
+void setFocusedOutputSource(std::function<QString()> outputName)
+{
+    focusedOutputSource() = std::move(outputName);
+}
+
 QScreen* mainScreen()
 {
+    if (focusedOutputSource() && !QGuiApplication::platformName().startsWith(u"xcb"_s)) {
+        const QString output = focusedOutputSource()();
+        for (QScreen* screen : QGuiApplication::screens()) {
+            if (!output.isEmpty() && screen->name() == output)
+                return screen;
+        }
+        return QGuiApplication::primaryScreen();
+    }
     return screenHolding(focusedWindowFrame(), QGuiApplication::screens(), QGuiApplication::primaryScreen());
 }
 

@@ -65,6 +65,9 @@ public:
                                                                          SoundPlaying* sounds, ScreenLocking* lock) = 0;
     [[nodiscard]] virtual std::unique_ptr<SettingsWindows> makeSettingsWindows(SettingsCollaborators collaborators) = 0;
     [[nodiscard]] virtual std::unique_ptr<SoundPlaying> makeSoundPlayer() = 0;
+    // Where the session hides where the focused window is (Wayland), who knows the name of its output; the card
+    // and a main-screen break go there. Windows that cannot use it ignore it.
+    virtual void setFocusedOutputSource(std::function<QString()> /*outputName*/) {}
 };
 
 // The windows linked into this binary, made on first call and kept for the life of the process.

@@ -112,9 +112,11 @@ private Q_SLOTS:
                       u"1"_s}));
         QTRY_COMPARE(providers.windowList->onScreenWindows().size(), 3);
         QCOMPARE(providers.screen->mainScreenFrame(), QRectF(0, 0, 1920, 1080));
+        QCOMPARE(m_detection.focusedOutput(), u"HEADLESS-1"_s);
         QVERIFY(!pass().isInFullscreenGame);
         QVERIFY(m_compositor.swayCommand(u"[title=\"^Racer$\"] focus"_s));
         QTRY_COMPARE(providers.screen->mainScreenFrame(), QRectF(1920, 0, 1280, 720));
+        QCOMPARE(m_detection.focusedOutput(), u"HEADLESS-2"_s);
         QVERIFY(pass().isInFullscreenGame);
         QVERIFY(!pass().isInMeeting);
 
