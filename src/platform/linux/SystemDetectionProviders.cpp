@@ -1,5 +1,6 @@
 #include "SystemDetectionProviders.h"
 
+#include "MutterInputActivity.h"
 #include "detection/SystemDeviceUsage.h"
 #include "detection/SystemMediaProviders.h"
 #include "detection/SystemX11Providers.h"
@@ -111,7 +112,12 @@ SystemDetection makeSystemDetection(std::shared_ptr<DesktopEntryIndex> desktopEn
         },
         capture);
 
-    detection.keyDownTime = std::make_unique<WaylandInputActivity>(link, std::move(x11Keys));
+    // GNOME's compositor has no idle protocol for clients; its own idle monitor serves the same purpose.
+    std::unique_ptr<KeyDownTimeProviding> typingElsewhere = MutterInputActivity::start(bus);
+    const bool mutterTyping = typingElsewhere != nullptr;
+    if (!typingElsewhere)
+        typingElsewhere = std::move(x11Keys);
+    detection.keyDownTime = std::make_unique<WaylandInputActivity>(link, std::move(typingElsewhere));
 
     detection.focusedOutput = [toplevels] {
         const WaylandFacts facts = toplevels->facts();
@@ -121,16 +127,16 @@ SystemDetection makeSystemDetection(std::shared_ptr<DesktopEntryIndex> desktopEn
         }
         return QString();
     };
-    detection.sources = [link, toplevels, hasX, hearsX11Keys] {
+    detection.sources = [link, toplevels, hasX, hearsX11Keys, mutterTyping] {
         const QString idle = link ? idleSourceName(link->idle()) : QString();
         QString windows = toplevels->name();
         if (hasX)
             windows = toplevels->isAvailable() ? windows + u"+xwayland"_s : u"xwayland"_s;
         return QVariantMap{{u"windows"_s, windows},
                            {u"idle"_s, idle.isEmpty() ? u"session-bus"_s : idle},
-                           {u"typing"_s, !idle.isEmpty() ? u"input-activity"_s
-                                         : hearsX11Keys  ? u"xwayland-xinput2"_s
-                                                         : u"none"_s},
+                           {u"typing"_s, !idle.isEmpty() || mutterTyping ? u"input-activity"_s
+                                         : hearsX11Keys                  ? u"xwayland-xinput2"_s
+                                                                         : u"none"_s},
                            {u"devices"_s, u"proc+sound-server"_s},
                            {u"media"_s, u"mpris"_s},
                            {u"capture"_s, u"pipewire"_s}};
