@@ -5,6 +5,7 @@
 #include "ControlService.h"
 #include "ControlTarget.h"
 #include "VeltoVersion.h"
+#include "wayland/WaylandLink.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -57,6 +58,13 @@ int runApplication(int argc, char* argv[])
     // elsewhere). Read once, as Qt's Wayland connection is made.
     if (!qEnvironmentVariableIsSet("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT"))
         qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+    // Before its first window Qt asks whether it may draw title bars itself, and to answer loads the desktop's
+    // OpenGL stack (Mesa and LLVM, some 50 MB that stay mapped), which windows drawn in software never use.
+    // Where the compositor draws title bars itself, Qt's are never drawn anyway: say so and skip the question.
+    if (qEnvironmentVariable("QT_QPA_PLATFORM").startsWith(u"wayland"_s) &&
+        !qEnvironmentVariableIsSet("QT_WAYLAND_DISABLE_WINDOWDECORATION") &&
+        velto::WaylandLink::announcedInterfaces().contains(u"zxdg_decoration_manager_v1"_s))
+        qputenv("QT_WAYLAND_DISABLE_WINDOWDECORATION", "1");
     setApplicationIdentity();
     QApplication::setApplicationDisplayName(u"Velto"_s);
     QApplication::setDesktopFileName(u"com.velto.app"_s);

@@ -725,6 +725,26 @@ std::optional<double> WaylandLink::secondsSinceLastInput() const
     return (activityWindowMs + m_state->idleSince.elapsed()) / 1000.0;
 }
 
+QStringList WaylandLink::announcedInterfaces(const QByteArray& display)
+{
+    wl_display* connection = wl_display_connect(display.isEmpty() ? nullptr : display.constData());
+    if (!connection)
+        return {};
+    QStringList interfaces;
+    static const wl_registry_listener listener = {
+        [](void* data, wl_registry*, uint32_t, const char* interface, uint32_t) {
+            static_cast<QStringList*>(data)->append(QString::fromUtf8(interface));
+        },
+        [](void*, wl_registry*, uint32_t) {}};
+    wl_registry* registry = wl_display_get_registry(connection);
+    wl_registry_add_listener(registry, &listener, &interfaces);
+    if (wl_display_roundtrip(connection) < 0)
+        interfaces.clear();
+    wl_registry_destroy(registry);
+    wl_display_disconnect(connection);
+    return interfaces;
+}
+
 quint64 WaylandLink::wakeUps() const
 {
     QMutexLocker lock(&m_state->mutex);

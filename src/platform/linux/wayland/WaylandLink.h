@@ -4,6 +4,7 @@
 #include <QList>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -75,6 +76,10 @@ public:
     // from then on (the compositor's own timer says when that window passed). None without an idle protocol.
     [[nodiscard]] std::optional<double> secondsSinceLastInput() const;
     static constexpr int activityWindowMs = 2000;
+
+    // The interfaces the compositor at that display (empty: $WAYLAND_DISPLAY) announces, asked in one round
+    // trip on a connection of their own; empty when none answers. For decisions made before Qt connects.
+    [[nodiscard]] static QStringList announcedInterfaces(const QByteArray& display = {});
 
     // How many times the compositor's events woke the link's thread; for the benchmarks.
     [[nodiscard]] quint64 wakeUps() const;
