@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TestWindowProcess.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -284,23 +286,12 @@ public:
     // process stays ours until closeWindow() or stop().
     QProcess* openWindow(const QString& windowProgram, const QStringList& arguments, QString* mapped = nullptr)
     {
-        auto process = std::make_unique<QProcess>();
-        process->setProcessEnvironment(environment());
-        process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process->start(windowProgram, arguments);
-        if (!process->waitForStarted(3000))
+        QByteArray line;
+        auto process = startTestWindow(windowProgram, arguments, environment(), &line);
+        if (!process)
             return nullptr;
-        const QDeadlineTimer deadline(5000);
-        while (!process->canReadLine() && process->state() == QProcess::Running && !deadline.hasExpired())
-            process->waitForReadyRead(100);
-        if (!process->canReadLine()) {
-            process->kill();
-            process->waitForFinished();
-            return nullptr;
-        }
-        const QString line = QString::fromUtf8(process->readLine().trimmed());
         if (mapped)
-            *mapped = line;
+            *mapped = QString::fromUtf8(line);
         m_windows.push_back(std::move(process));
         return m_windows.back().get();
     }
@@ -309,10 +300,7 @@ public:
     {
         for (auto it = m_windows.begin(); it != m_windows.end(); ++it) {
             if (it->get() == window) {
-                window->closeWriteChannel();
-                if (!window->waitForFinished(2000))
-                    window->kill();
-                window->waitForFinished();
+                closeTestWindow(*window);
                 m_windows.erase(it);
                 return;
             }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TestWindowProcess.h"
+
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
@@ -110,19 +112,12 @@ public:
     // Starts a test window program and waits until it reports its window ID; the process stays ours.
     QProcess* openWindow(const QString& windowProgram, const QStringList& arguments, quint32* windowId = nullptr)
     {
-        auto process = std::make_unique<QProcess>();
-        process->setProcessEnvironment(environment());
-        process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process->start(windowProgram, arguments);
-        if (!process->waitForStarted(3000))
-            return nullptr;
-        const QDeadlineTimer deadline(5000);
-        while (!process->canReadLine() && !deadline.hasExpired())
-            process->waitForReadyRead(100);
-        if (!process->canReadLine())
+        QByteArray line;
+        auto process = startTestWindow(windowProgram, arguments, environment(), &line);
+        if (!process)
             return nullptr;
         if (windowId)
-            *windowId = process->readLine().trimmed().toUInt();
+            *windowId = line.toUInt();
         m_windows.push_back(std::move(process));
         return m_windows.back().get();
     }
@@ -131,8 +126,7 @@ public:
     {
         for (auto it = m_windows.begin(); it != m_windows.end(); ++it) {
             if (it->get() == window) {
-                window->closeWriteChannel();
-                window->waitForFinished(2000);
+                closeTestWindow(*window);
                 m_windows.erase(it);
                 return;
             }
