@@ -187,6 +187,10 @@ void ActivityDetector::runDetectionPass()
         QMutexLocker lock(&m_sharedMutex);
         if (m_shuttingDown)
             return;
+        // Nothing new to publish: the main thread is not woken. A pass that found activity always goes, as
+        // its time stamp starts the cool-down afresh.
+        if (!snapshot.activityDetectedAt && snapshot == m_lastApplied)
+            return;
         m_pendingHandOver = handOver;
     }
     QMetaObject::invokeMethod(
@@ -213,6 +217,9 @@ void ActivityDetector::applySnapshot(const DetectionSnapshot& snapshot)
     m_meetingPauseAppBundleIdentifier = snapshot.meetingPauseAppBundleIdentifier;
     if (snapshot.activityDetectedAt)
         m_lastActivityDetectedAt = snapshot.activityDetectedAt;
+    QMutexLocker lock(&m_sharedMutex);
+    m_lastApplied = snapshot;
+    m_lastApplied.activityDetectedAt.reset();
 }
 
 // What the scheduler and the menu read.

@@ -28,7 +28,8 @@ namespace velto {
 //
 // The timer lives on the worker as well: a fire then wakes only the thread that does the work, not the main
 // thread too, and the worker is not woken a second time just to hear that its result has been applied (the
-// next pass checks that before it starts). An idle desktop pays for one main-thread wake-up per pass.
+// next pass checks that before it starts). A pass whose result is what the main thread already shows is not
+// handed over at all, so a quiet desktop does not wake the main thread for detection.
 class ActivityDetector final : public QObject, public ActivityDetecting {
     Q_OBJECT
     Q_INTERFACES(velto::ActivityDetecting)
@@ -149,6 +150,8 @@ private:
     double m_idleThreshold = 60;
     bool m_shuttingDown = false;
     std::shared_ptr<HandOver> m_pendingHandOver;
+    // The last result published, without its time stamp.
+    DetectionSnapshot m_lastApplied;
 
     bool m_isMonitoring = false;
     // Changed by every start and stop, so a fire from a timer that has been stopped is recognised as such on

@@ -96,6 +96,7 @@ private Q_SLOTS:
     void missedFiresStillGetTheirPasses();
     void theNextPassWaitsForTheResultToBeApplied();
     void passesRunOneAtATimeOnTheWorker();
+    void onlyNewResultsWakeTheMainThread();
     void aRunningPassKeepsItsSettings();
     void shutdownWhileAPassWaitsForTheMainThread();
 };
@@ -381,8 +382,10 @@ void TestActivityDetector::theNextPassWaitsForTheResultToBeApplied()
     QSemaphore probed;
     std::atomic<int> appliedSoFar{0};
     QList<int> appliedAtProbe;
+    int passes = 0;
     rig.fakes.idleTime->hook.set([&] {
         appliedAtProbe.append(appliedSoFar.load());
+        rig.fakes.idleTime->seconds.set(++passes % 2 ? 3600 : 0); // a new result each time, so each is handed over
         probed.release();
     });
     connect(rig.detector.get(), &ActivityDetector::isIdleChanged, this, [&] { ++appliedSoFar; });
@@ -408,6 +411,7 @@ void TestActivityDetector::passesRunOneAtATimeOnTheWorker()
     rig.fakes.idleTime->hook.set([&] {
         onMainThread = onMainThread || QThread::currentThread() == mainThread;
         mostAtOnce = std::max(mostAtOnce.load(), ++running);
+        rig.fakes.idleTime->seconds.set(rig.fakes.idleTime->calls() % 2 ? 3600 : 0);
         started.release();
         gate.acquire();
         --running;
@@ -426,11 +430,52 @@ void TestActivityDetector::passesRunOneAtATimeOnTheWorker()
     QVERIFY(!onMainThread);
 }
 
+void TestActivityDetector::onlyNewResultsWakeTheMainThread()
+{
+    Rig rig;
+    // Counts what the worker posts to the detector on this thread.
+    struct PostedCalls : QObject {
+        int count = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::MetaCall;
+            return false;
+        }
+    } posted;
+    rig.detector->installEventFilter(&posted);
+    const auto postedByPasses = [&](int passes) {
+        const int before = posted.count;
+        for (int i = 0; i < passes; ++i) {
+            rig.detector->queueDetectionPass();
+            // Passes run in order, so this returns after the pass; then its hand-over, if any, is applied.
+            QMetaObject::invokeMethod(
+                rig.detector->detectionWorker(), [] {}, Qt::BlockingQueuedConnection);
+            QCoreApplication::processEvents();
+        }
+        return posted.count - before;
+    };
+
+    // What is already shown needs no hand-over, and the flags stay as they are.
+    QCOMPARE(postedByPasses(2), 0);
+    rig.fakes.idleTime->seconds.set(3600);
+    QCOMPARE(postedByPasses(2), 1);
+    QVERIFY(rig.detector->isIdle());
+    // Activity always goes over: its time stamp restarts the cool-down.
+    rig.fakes.screenRecording->recording.set(true);
+    QCOMPARE(postedByPasses(2), 2);
+    rig.fakes.screenRecording->recording.set(false);
+    rig.fakes.idleTime->seconds.set(0);
+    QCOMPARE(postedByPasses(2), 1);
+    QVERIFY(!rig.detector->isIdle() && !rig.detector->isScreenRecording());
+    QVERIFY(rig.detector->lastActivityDetectedAt());
+}
+
 void TestActivityDetector::aRunningPassKeepsItsSettings()
 {
     Rig rig;
     rig.fakes.workspace->applications.set({runningApp(u"vlc"_s, 1, true)});
     rig.fakes.idleTime->seconds.set(30);
+    rig.fakes.screenRecording->recording.set(true); // activity: every pass is handed over
     QSemaphore started;
     QSemaphore gate;
     rig.fakes.camera->hook.set([&] {
