@@ -65,9 +65,56 @@ int layerFor(const X11Session& s, const QList<xcb_atom_t>& types)
     return normalLayer;
 }
 
+struct WindowCookies {
+    xcb_get_property_cookie_t pid;
+    xcb_get_property_cookie_t wmClass;
+    xcb_get_window_attributes_cookie_t attributes;
+    xcb_get_geometry_cookie_t geometry;
+    xcb_translate_coordinates_cookie_t origin;
+    xcb_get_property_cookie_t type;
+    xcb_get_property_cookie_t state;
+    xcb_get_property_cookie_t extents;
+    xcb_get_property_cookie_t desktop;
+    xcb_get_property_cookie_t netName;
+    xcb_get_property_cookie_t name;
+
+    // Replies (and errors) that will not be read, dropped as they come so they never reach the event queue.
+    void discard(xcb_connection_t* c) const
+    {
+        for (const unsigned int sequence :
+             {pid.sequence, wmClass.sequence, attributes.sequence, geometry.sequence, origin.sequence, type.sequence,
+              state.sequence, extents.sequence, desktop.sequence, netName.sequence, name.sequence})
+            xcb_discard_reply(c, sequence);
+    }
+};
+
+std::vector<WindowCookies> requestWindowFacts(const X11Session& s, const QList<xcb_window_t>& windows)
+{
+    xcb_connection_t* c = s.connection();
+    const xcb_ewmh_connection_t* e = s.ewmh();
+    std::vector<WindowCookies> cookies;
+    cookies.reserve(size_t(windows.size()));
+    for (const xcb_window_t w : windows) {
+        WindowCookies k{};
+        k.pid = cardinalProperty(s, w, e->_NET_WM_PID);
+        k.wmClass = xcb_get_property(c, 0, w, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 256);
+        k.attributes = xcb_get_window_attributes(c, w);
+        k.geometry = xcb_get_geometry(c, w);
+        k.origin = xcb_translate_coordinates(c, w, s.root(), 0, 0);
+        k.type = xcb_get_property(c, 0, w, e->_NET_WM_WINDOW_TYPE, XCB_ATOM_ATOM, 0, 32);
+        k.state = xcb_get_property(c, 0, w, e->_NET_WM_STATE, XCB_ATOM_ATOM, 0, 32);
+        k.extents = xcb_get_property(c, 0, w, e->_NET_FRAME_EXTENTS, XCB_ATOM_CARDINAL, 0, 4);
+        k.desktop = cardinalProperty(s, w, e->_NET_WM_DESKTOP);
+        k.netName = xcb_get_property(c, 0, w, e->_NET_WM_NAME, e->UTF8_STRING, 0, 1024);
+        k.name = xcb_get_property(c, 0, w, XCB_ATOM_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);
+        cookies.push_back(k);
+    }
+    return cookies;
+}
+
 } // namespace
 
-Snapshot snapshot(const X11Session& s)
+Snapshot snapshot(const X11Session& s, const QList<xcb_window_t>& expectedWindows)
 {
     xcb_connection_t* c = s.connection();
     const xcb_ewmh_connection_t* e = s.ewmh();
@@ -87,6 +134,9 @@ Snapshot snapshot(const X11Session& s)
     const bool hasRandr = randr != nullptr && randr->present;
     // Monitors are what desktops lay out (and what a split screen shows as several); the primary one first.
     const auto monitorsCookie = hasRandr ? xcb_randr_get_monitors(c, s.root(), 1) : xcb_randr_get_monitors_cookie_t{};
+    // The windows of the last look, asked in the same batch: on a desktop whose windows have not come or gone
+    // since, a pass costs one round trip.
+    std::vector<WindowCookies> prefetched = requestWindowFacts(s, expectedWindows);
 
     const QList<xcb_window_t> active = atomListReply(s, activeCookie);
     const QList<xcb_window_t> clientList = atomListReply(s, clientsCookie);
@@ -115,46 +165,26 @@ Snapshot snapshot(const X11Session& s)
         }
     }
 
-    // Second batch: every managed window's facts.
+    // Every managed window's facts, from the first batch when the windows are the expected ones.
     QList<xcb_window_t> windows = clientList;
     for (const xcb_window_t w : std::as_const(stacking))
         if (!windows.contains(w))
             windows.append(w);
-    struct Cookies {
-        xcb_get_property_cookie_t pid;
-        xcb_get_property_cookie_t wmClass;
-        xcb_get_window_attributes_cookie_t attributes;
-        xcb_get_geometry_cookie_t geometry;
-        xcb_translate_coordinates_cookie_t origin;
-        xcb_get_property_cookie_t type;
-        xcb_get_property_cookie_t state;
-        xcb_get_property_cookie_t extents;
-        xcb_get_property_cookie_t desktop;
-        xcb_get_property_cookie_t netName;
-        xcb_get_property_cookie_t name;
-    };
-    std::vector<Cookies> cookies;
-    cookies.reserve(size_t(windows.size()));
-    for (const xcb_window_t w : std::as_const(windows)) {
-        Cookies k{};
-        k.pid = cardinalProperty(s, w, e->_NET_WM_PID);
-        k.wmClass = xcb_get_property(c, 0, w, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 256);
-        k.attributes = xcb_get_window_attributes(c, w);
-        k.geometry = xcb_get_geometry(c, w);
-        k.origin = xcb_translate_coordinates(c, w, s.root(), 0, 0);
-        k.type = xcb_get_property(c, 0, w, e->_NET_WM_WINDOW_TYPE, XCB_ATOM_ATOM, 0, 32);
-        k.state = xcb_get_property(c, 0, w, e->_NET_WM_STATE, XCB_ATOM_ATOM, 0, 32);
-        k.extents = xcb_get_property(c, 0, w, e->_NET_FRAME_EXTENTS, XCB_ATOM_CARDINAL, 0, 4);
-        k.desktop = cardinalProperty(s, w, e->_NET_WM_DESKTOP);
-        k.netName = xcb_get_property(c, 0, w, e->_NET_WM_NAME, e->UTF8_STRING, 0, 1024);
-        k.name = xcb_get_property(c, 0, w, XCB_ATOM_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);
-        cookies.push_back(k);
+    result.windows = windows;
+    std::vector<WindowCookies> cookies;
+    if (windows == expectedWindows) {
+        cookies = std::move(prefetched);
+    } else {
+        // The lists changed: what was asked ahead is for the wrong windows; ask again.
+        for (const WindowCookies& k : prefetched)
+            k.discard(c);
+        cookies = requestWindowFacts(s, windows);
     }
 
     QHash<xcb_window_t, OnScreenWindow> onScreen;
     // Every reply is collected, also for windows that turn out to be off screen, so none is left queued.
     for (qsizetype i = 0; i < windows.size(); ++i) {
-        const Cookies& k = cookies[size_t(i)];
+        const WindowCookies& k = cookies[size_t(i)];
         const xcb_window_t w = windows[i];
         const std::optional<uint32_t> pid = cardinalReply(s, k.pid);
         auto classReply = fetch(xcb_get_property_reply, c, k.wmClass);

@@ -10,9 +10,10 @@
 
 namespace velto {
 
-// The requests the X11 providers make: everything a detection pass may ask, in two round trips however many
-// windows there are (each batch is sent whole before the first reply is awaited). A window that vanishes
-// between two requests simply drops out of the answer.
+// The requests the X11 providers make: everything a detection pass may ask, in one round trip however many
+// windows there are when the caller names the windows it expects (the last answer's), in two when they have
+// changed (each batch is sent whole before the first reply is awaited). A window that vanishes between two
+// requests simply drops out of the answer.
 namespace X11Queries {
 
 // Window layers in the numbers the detection rules compare: 0 is the normal application layer.
@@ -58,9 +59,11 @@ struct Snapshot {
     QRectF primaryScreenFrame;
     // Milliseconds since the last input the server saw; none without the MIT-SCREEN-SAVER extension.
     std::optional<quint32> millisecondsSinceInput;
+    // Every window asked about: the managed ones, then any others in the stacking order.
+    QList<xcb_window_t> windows;
 };
 
-[[nodiscard]] Snapshot snapshot(const X11Session& session);
+[[nodiscard]] Snapshot snapshot(const X11Session& session, const QList<xcb_window_t>& expectedWindows = {});
 
 } // namespace X11Queries
 } // namespace velto

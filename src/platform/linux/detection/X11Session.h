@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QMutex>
 #include <QString>
 
@@ -60,7 +61,7 @@ public:
     [[nodiscard]] std::shared_ptr<X11Session> session(const LogOnce& log) const;
 
     // What the providers ask the server, all at once; null without a session. Between beginPass and endPass
-    // it is asked once and shared, so a detection pass costs two round trips however many providers ask
+    // it is asked once and shared, so a detection pass costs one round trip however many providers ask
     // (fewer wake-ups of the server and of the detection thread); outside a pass every call asks afresh.
     [[nodiscard]] std::shared_ptr<const X11Queries::Snapshot> snapshot(const LogOnce& log) const;
     void beginPass();
@@ -73,6 +74,8 @@ private:
     mutable QMutex m_passMutex;
     bool m_inPass = false;
     mutable std::shared_ptr<const X11Queries::Snapshot> m_passSnapshot;
+    // The windows of the last answer, asked ahead in the next one.
+    mutable QList<xcb_window_t> m_lastWindows;
 };
 
 // A reply that frees itself.
