@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
@@ -25,7 +26,7 @@ private Q_SLOTS:
     void alsaCountsRunningCaptureSubstreamsOnly();
     void pulseCountsRecordingsOnRealSourcesOnly();
     void withoutASoundServerAlsaAnswersAndTheFailureIsReportedOnce();
-    void aHungSoundServerCostsAtMostTheTimeout();
+    void aHungSoundServerCostsAtMostTheTimeoutAndIsAskedLessOften();
 
 private:
     bool startPulse();
@@ -159,7 +160,7 @@ void TestSystemMicrophoneUsage::withoutASoundServerAlsaAnswersAndTheFailureIsRep
     QVERIFY(capture.texts().first().contains(u"No sound server answers"_s));
 }
 
-void TestSystemMicrophoneUsage::aHungSoundServerCostsAtMostTheTimeout()
+void TestSystemMicrophoneUsage::aHungSoundServerCostsAtMostTheTimeoutAndIsAskedLessOften()
 {
     // A socket that accepts connections and never says a word.
     QLocalServer silent;
@@ -168,6 +169,7 @@ void TestSystemMicrophoneUsage::aHungSoundServerCostsAtMostTheTimeout()
     SystemMicrophoneUsage::Options options;
     options.pulseServer = "unix:" + QFile::encodeName(path(u"silent"_s));
     options.proc = path(u"proc"_s);
+    options.firstRetryMilliseconds = 600;
     const SystemMicrophoneUsage microphone(options);
     MessageCapture capture;
     QElapsedTimer timer;
@@ -176,6 +178,24 @@ void TestSystemMicrophoneUsage::aHungSoundServerCostsAtMostTheTimeout()
     const qint64 elapsed = timer.elapsed();
     QVERIFY2(elapsed >= 200 && elapsed < 500, QByteArray::number(elapsed).constData());
     QCOMPARE(capture.texts().size(), 1);
+
+    // Connections the server has seen so far.
+    int connections = 0;
+    const auto accepted = [&] {
+        while (silent.waitForNewConnection(0) && silent.hasPendingConnections())
+            silent.nextPendingConnection(), ++connections; // kept by the server until it goes
+        return connections;
+    };
+    QCOMPARE(accepted(), 1);
+    // Within the retry delay the server is not asked; after it, it is, and then not again for twice as long.
+    QVERIFY(microphone.activeMicrophoneIdentifiers().isEmpty());
+    QCOMPARE(accepted(), 1);
+    QThread::msleep(700 - int(timer.elapsed() - elapsed));
+    QVERIFY(microphone.activeMicrophoneIdentifiers().isEmpty());
+    QCOMPARE(accepted(), 2);
+    QThread::msleep(700);
+    QVERIFY(microphone.activeMicrophoneIdentifiers().isEmpty());
+    QCOMPARE(accepted(), 2);
 }
 
 QTEST_GUILESS_MAIN(TestSystemMicrophoneUsage)

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QMap>
 
+#include <algorithm>
 #include <chrono>
 #include <dirent.h>
 #include <fcntl.h>
@@ -333,15 +334,27 @@ SystemMicrophoneUsage::~SystemMicrophoneUsage() = default;
 std::optional<QStringList> SystemMicrophoneUsage::pulseCaptureSources() const
 {
     const std::lock_guard lock(m_pulseMutex);
-    if (!m_pulse)
+    const auto now = std::chrono::steady_clock::now();
+    if (!m_pulse) {
+        // A session without a sound server (or with a hung one) is not asked every pass: each try sets up a
+        // client with its memory pool, or waits out the timeout.
+        if (now < m_pulseRetryAt)
+            return std::nullopt;
         m_pulse = std::make_unique<PulseWatch>(m_options.pulseServer);
+    }
     QString failure;
     auto sources = m_pulse->recordedSources(m_options.timeoutMilliseconds, &failure);
-    // Connected afresh on the next pass, as after a restart of the server.
-    if (!sources)
-        m_pulse.reset();
-    if (!sources)
-        m_log.warn(u"pulse"_s, u"No sound server answers (%1); reading ALSA capture streams instead"_s.arg(failure));
+    if (sources) {
+        m_pulseRetryDelay = std::chrono::milliseconds(0);
+        return sources;
+    }
+    // Connected afresh later, as after a restart of the server.
+    m_pulse.reset();
+    m_pulseRetryDelay = std::clamp(
+        2 * m_pulseRetryDelay, std::chrono::milliseconds(m_options.firstRetryMilliseconds),
+        std::max(std::chrono::milliseconds(60000), std::chrono::milliseconds(m_options.firstRetryMilliseconds)));
+    m_pulseRetryAt = std::chrono::steady_clock::now() + m_pulseRetryDelay;
+    m_log.warn(u"pulse"_s, u"No sound server answers (%1); reading ALSA capture streams instead"_s.arg(failure));
     return sources;
 }
 

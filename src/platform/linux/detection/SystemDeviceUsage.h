@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -48,6 +49,9 @@ public:
         QByteArray pulseServer;
         QString proc = QStringLiteral("/proc");
         int timeoutMilliseconds = 250;
+        // After a failed connection the next try waits this long, twice as long after each further failure,
+        // up to a minute; meanwhile ALSA answers.
+        int firstRetryMilliseconds = 2000;
     };
     SystemMicrophoneUsage();
     explicit SystemMicrophoneUsage(Options options);
@@ -69,6 +73,8 @@ private:
     LogOnce m_log;
     mutable std::mutex m_pulseMutex;
     mutable std::unique_ptr<PulseWatch> m_pulse;
+    mutable std::chrono::steady_clock::time_point m_pulseRetryAt;
+    mutable std::chrono::milliseconds m_pulseRetryDelay{0};
 };
 
 } // namespace velto
