@@ -3,6 +3,8 @@
 #include <QHash>
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 #include <vector>
 #include <xcb/randr.h>
 #include <xcb/screensaver.h>
@@ -88,6 +90,14 @@ struct WindowCookies {
     }
 };
 
+// Sends what is queued and sleeps about as long as the server takes to answer it: one wake-up for the batch.
+void awaitBatch(xcb_connection_t* c, qsizetype windows)
+{
+    xcb_flush(c);
+    // A round trip through a local server takes some tens of microseconds, plus a few for each window asked.
+    std::this_thread::sleep_for(std::chrono::microseconds(500 + 20 * std::min<qsizetype>(windows, 200)));
+}
+
 std::vector<WindowCookies> requestWindowFacts(const X11Session& s, const QList<xcb_window_t>& windows)
 {
     xcb_connection_t* c = s.connection();
@@ -114,7 +124,7 @@ std::vector<WindowCookies> requestWindowFacts(const X11Session& s, const QList<x
 
 } // namespace
 
-Snapshot snapshot(const X11Session& s, const QList<xcb_window_t>& expectedWindows)
+Snapshot snapshot(const X11Session& s, const QList<xcb_window_t>& expectedWindows, bool patient)
 {
     xcb_connection_t* c = s.connection();
     const xcb_ewmh_connection_t* e = s.ewmh();
@@ -137,6 +147,8 @@ Snapshot snapshot(const X11Session& s, const QList<xcb_window_t>& expectedWindow
     // The windows of the last look, asked in the same batch: on a desktop whose windows have not come or gone
     // since, a pass costs one round trip.
     std::vector<WindowCookies> prefetched = requestWindowFacts(s, expectedWindows);
+    if (patient)
+        awaitBatch(c, 1 + expectedWindows.size());
 
     const QList<xcb_window_t> active = atomListReply(s, activeCookie);
     const QList<xcb_window_t> clientList = atomListReply(s, clientsCookie);
@@ -179,6 +191,8 @@ Snapshot snapshot(const X11Session& s, const QList<xcb_window_t>& expectedWindow
         for (const WindowCookies& k : prefetched)
             k.discard(c);
         cookies = requestWindowFacts(s, windows);
+        if (patient)
+            awaitBatch(c, windows.size());
     }
 
     QHash<xcb_window_t, OnScreenWindow> onScreen;

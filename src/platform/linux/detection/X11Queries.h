@@ -63,7 +63,10 @@ struct Snapshot {
     QList<xcb_window_t> windows;
 };
 
-[[nodiscard]] Snapshot snapshot(const X11Session& session, const QList<xcb_window_t>& expectedWindows = {});
+// With patient set, the caller (a background thread) lets the server answer the whole batch before it reads:
+// the server sends each reply as it goes, and a reader that waits for them one by one wakes once per reply.
+[[nodiscard]] Snapshot snapshot(const X11Session& session, const QList<xcb_window_t>& expectedWindows = {},
+                                bool patient = false);
 
 } // namespace X11Queries
 } // namespace velto

@@ -87,7 +87,7 @@ std::shared_ptr<const X11Queries::Snapshot> X11Link::snapshot(const LogOnce& log
     const auto current = session(log);
     if (!current)
         return nullptr;
-    auto fresh = std::make_shared<const X11Queries::Snapshot>(X11Queries::snapshot(*current, m_lastWindows));
+    auto fresh = std::make_shared<const X11Queries::Snapshot>(X11Queries::snapshot(*current, m_lastWindows, m_inPass));
     m_lastWindows = fresh->windows;
     if (m_inPass)
         m_passSnapshot = fresh;
