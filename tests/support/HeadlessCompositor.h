@@ -28,22 +28,24 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
-// A headless Wayland compositor for tests: sway (wlroots), Weston or KWin, listening in a runtime directory of
-// its own, with a private session bus, so nothing reaches the user's desktop. Stops everything it started.
+// A headless Wayland compositor for tests: sway (wlroots), Weston, KWin or GNOME Shell, listening in a runtime
+// directory of its own, with a private session bus, so nothing reaches the user's desktop. Stops everything it
+// started.
 // Clients get the session through environment(); the harness itself needs Qt D-Bus and the wayland-info tool.
 class HeadlessCompositor final {
 public:
-    enum class Kind { Sway, Weston, KWin };
+    enum class Kind { Sway, Weston, KWin, Gnome };
 
     struct Options {
         // Output sizes, placed left to right from (0, 0). Empty means 1920x1080 and 1280x720 on sway, two of
-        // 1024x600 on KWin, one of 1024x600 on Weston. KWin gives every output the first size and Weston has a
-        // single output: asking them for anything else fails the start.
+        // 1024x600 on KWin, one of 1024x600 on Weston, 1024x600 and 800x600 on GNOME Shell. KWin gives every
+        // output the first size and Weston has a single output: asking them for anything else fails the start.
         QList<QSize> outputs;
         // Sway only: a swaybar, whose tray (org.kde.StatusNotifierWatcher) is on the private bus.
         bool swayBar = false;
@@ -71,6 +73,12 @@ public:
             break;
         case Kind::KWin:
             tools << QStringLiteral("kwin_wayland");
+            break;
+        case Kind::Gnome:
+            // It needs a mount namespace of its own (see gnomeCommand), which takes root.
+            if (geteuid() != 0)
+                return false;
+            tools << QStringLiteral("gnome-shell") << QStringLiteral("unshare");
             break;
         }
         for (const QString& tool : tools) {
@@ -107,6 +115,9 @@ public:
         case Kind::KWin:
             command = kwinCommand(options, env);
             break;
+        case Kind::Gnome:
+            command = gnomeCommand(env);
+            break;
         }
         if (command.isEmpty()) {
             stop();
@@ -138,6 +149,7 @@ public:
         }
         stopGroup(m_compositor);
         stopGroup(m_bus);
+        stopGroup(m_systemBus);
         m_busAddress.clear();
         m_display.clear();
         m_swaySocket.clear();
@@ -282,6 +294,19 @@ public:
         return ran.type() == QDBusMessage::ReplyMessage;
     }
 
+    // Runs JavaScript in GNOME Shell (started in unsafe mode, so Eval answers); the value as the shell prints it
+    // (a string comes quoted), or none when the shell refused or threw.
+    [[nodiscard]] std::optional<QString> gnomeEval(const QString& script) const
+    {
+        if (m_kind != Kind::Gnome || !isRunning())
+            return std::nullopt;
+        const QDBusMessage reply = callBus(QStringLiteral("org.gnome.Shell"), QStringLiteral("/org/gnome/Shell"),
+                                           QStringLiteral("org.gnome.Shell"), QStringLiteral("Eval"), {script});
+        if (reply.type() != QDBusMessage::ReplyMessage || !reply.arguments().value(0).toBool())
+            return std::nullopt;
+        return reply.arguments().value(1).toString();
+    }
+
     // Starts a test window program (wayland_test_window) and waits until it reports its window mapped; the
     // process stays ours until closeWindow() or stop().
     QProcess* openWindow(const QString& windowProgram, const QStringList& arguments, QString* mapped = nullptr)
@@ -331,9 +356,10 @@ private:
     static QList<QRect> outputGeometries(Kind kind, QList<QSize> sizes)
     {
         if (sizes.isEmpty()) {
-            sizes = kind == Kind::Sway   ? QList<QSize>{{1920, 1080}, {1280, 720}}
-                    : kind == Kind::KWin ? QList<QSize>{{1024, 600}, {1024, 600}}
-                                         : QList<QSize>{{1024, 600}};
+            sizes = kind == Kind::Sway    ? QList<QSize>{{1920, 1080}, {1280, 720}}
+                    : kind == Kind::KWin  ? QList<QSize>{{1024, 600}, {1024, 600}}
+                    : kind == Kind::Gnome ? QList<QSize>{{1024, 600}, {800, 600}}
+                                          : QList<QSize>{{1024, 600}};
         }
         if (kind == Kind::Weston && sizes.size() != 1)
             return {};
@@ -371,39 +397,52 @@ private:
 
     bool startBus()
     {
+        if (!startDaemon(QStringLiteral("session"), m_bus, &m_busAddress))
+            return false;
+        m_busConnectionName = QStringLiteral("velto-headless-compositor-%1").arg(reinterpret_cast<quintptr>(this));
+        return QDBusConnection::connectToBus(m_busAddress, m_busConnectionName).isConnected();
+    }
+
+    // A dbus-daemon of the given type in its own directory; GNOME Shell's session bus also activates the
+    // services installed on the system (the shell's notification daemon among them).
+    bool startDaemon(const QString& type, std::unique_ptr<QProcess>& daemon, QString* address)
+    {
+        const QString directory = m_base->filePath(type + QStringLiteral("-bus"));
+        if (!QDir().mkpath(directory) || ::chmod(QFile::encodeName(directory).constData(), 0755) != 0)
+            return false;
         // Any user may connect (swaybar runs as nobody when the tests are root); only this directory knows it.
         const QString config =
             QStringLiteral("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
                            " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-                           "<busconfig><type>session</type><listen>unix:dir=%1</listen><auth>EXTERNAL</auth>\n"
+                           "<busconfig><type>%2</type><listen>unix:dir=%1</listen><auth>EXTERNAL</auth>%3\n"
                            "<policy context=\"default\"><allow user=\"*\"/><allow own=\"*\"/>\n"
                            "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow eavesdrop=\"true\"/></policy>\n"
                            "</busconfig>\n")
-                .arg(m_base->path().toHtmlEscaped());
-        const QString configPath = m_base->filePath(QStringLiteral("bus.conf"));
+                .arg(directory.toHtmlEscaped(), type,
+                     m_kind == Kind::Gnome && type == QStringLiteral("session")
+                         ? QStringLiteral("<standard_session_servicedirs/>")
+                         : QString());
+        const QString configPath = directory + QStringLiteral(".conf");
         QFile file(configPath);
         if (!file.open(QIODevice::WriteOnly) || file.write(config.toUtf8()) < 0)
             return false;
         file.close();
-        m_bus = std::make_unique<QProcess>();
-        m_bus->setChildProcessModifier([] {
+        daemon = std::make_unique<QProcess>();
+        daemon->setChildProcessModifier([] {
             ::setpgid(0, 0);
             ::umask(0); // a socket the compositor's user can connect to
         });
-        m_bus->setStandardErrorFile(m_base->filePath(QStringLiteral("bus.log"))); // it complains about fd limits
-        m_bus->start(QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")),
-                     {QStringLiteral("--config-file=") + configPath, QStringLiteral("--print-address"),
-                      QStringLiteral("--nofork")});
-        if (!m_bus->waitForStarted(3000))
+        daemon->setStandardErrorFile(directory + QStringLiteral(".log")); // it complains about fd limits
+        daemon->start(QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")),
+                      {QStringLiteral("--config-file=") + configPath, QStringLiteral("--print-address"),
+                       QStringLiteral("--nofork")});
+        if (!daemon->waitForStarted(3000))
             return false;
         const QDeadlineTimer deadline(5000);
-        while (!m_bus->canReadLine() && m_bus->state() == QProcess::Running && !deadline.hasExpired())
-            m_bus->waitForReadyRead(100);
-        m_busAddress = QString::fromUtf8(m_bus->readLine().trimmed());
-        if (m_busAddress.isEmpty())
-            return false;
-        m_busConnectionName = QStringLiteral("velto-headless-compositor-%1").arg(reinterpret_cast<quintptr>(this));
-        return QDBusConnection::connectToBus(m_busAddress, m_busConnectionName).isConnected();
+        while (!daemon->canReadLine() && daemon->state() == QProcess::Running && !deadline.hasExpired())
+            daemon->waitForReadyRead(100);
+        *address = QString::fromUtf8(daemon->readLine().trimmed());
+        return !address->isEmpty();
     }
 
     [[nodiscard]] QProcessEnvironment compositorEnvironment() const
@@ -511,6 +550,26 @@ private:
                 m_display,
                 QStringLiteral("--no-lockscreen"),
                 QStringLiteral("--no-global-shortcuts")};
+    }
+
+    QStringList gnomeCommand(QProcessEnvironment& env)
+    {
+        // The shell asks logind about seats when /run/systemd/seats exists; on machines where it does but no
+        // logind runs, the shell starts in a mount namespace where that folder is empty. Its system bus is a
+        // private one too.
+        QString systemBus;
+        if (!startDaemon(QStringLiteral("system"), m_systemBus, &systemBus))
+            return {};
+        env.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), systemBus);
+        env.insert(QStringLiteral("XDG_SESSION_TYPE"), QStringLiteral("wayland"));
+        m_display = QStringLiteral("wayland-1");
+        QString shell = QStringLiteral("exec gnome-shell --headless --wayland --no-x11 --sm-disable --unsafe-mode "
+                                       "--wayland-display=") +
+                        m_display;
+        for (const QRect& output : std::as_const(m_outputs))
+            shell += QStringLiteral(" --virtual-monitor %1x%2").arg(output.width()).arg(output.height());
+        return {QStandardPaths::findExecutable(QStringLiteral("unshare")), QStringLiteral("-m"), QStringLiteral("sh"),
+                QStringLiteral("-c"), QStringLiteral("mount -t tmpfs tmpfs /run/systemd 2>/dev/null; ") + shell};
     }
 
     // A path as one word of Exec=, quoted as KWin splits it (it leaves a backslash before $ or ` in place), then
@@ -640,6 +699,11 @@ private:
             return busNameOwned(QStringLiteral("org.kde.KWin"));
         case Kind::Weston:
             return true;
+        case Kind::Gnome:
+            // It starts in the overview, which would hide every window a test opens.
+            return busNameOwned(QStringLiteral("org.gnome.Shell")) &&
+                   gnomeEval(QStringLiteral("Main.overview.hide(); Main.layoutManager._startingUp === false")) ==
+                       QStringLiteral("true");
         }
         return false;
     }
@@ -647,6 +711,7 @@ private:
     Kind m_kind = Kind::Sway;
     std::unique_ptr<QTemporaryDir> m_base;
     std::unique_ptr<QProcess> m_bus;
+    std::unique_ptr<QProcess> m_systemBus;
     std::unique_ptr<QProcess> m_compositor;
     std::vector<std::unique_ptr<QProcess>> m_windows;
     QString m_busAddress;

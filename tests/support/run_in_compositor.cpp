@@ -1,6 +1,6 @@
 // Runs a command inside a private headless Wayland compositor and answers with its exit code, so tests whose
 // Qt connects at start (the windows' tests) can run on sway or KWin as they run on Xvfb.
-// Usage: run_in_compositor sway|kwin|weston [--bar] -- COMMAND [ARGUMENTS…]
+// Usage: run_in_compositor sway|kwin|weston|gnome [--bar] -- COMMAND [ARGUMENTS…]
 // The command also finds SWAYSOCK (sway) and VELTO_TEST_COMPOSITOR (the compositor's name) in its environment.
 #include "HeadlessCompositor.h"
 
@@ -14,12 +14,13 @@ int main(int argc, char** argv)
     QStringList arguments = app.arguments().mid(1);
     const qsizetype separator = arguments.indexOf(QStringLiteral("--"));
     if (arguments.isEmpty() || separator < 1 || separator == arguments.size() - 1) {
-        std::fprintf(stderr, "usage: run_in_compositor sway|kwin|weston [--bar] -- COMMAND [ARGUMENTS...]\n");
+        std::fprintf(stderr, "usage: run_in_compositor sway|kwin|weston|gnome [--bar] -- COMMAND [ARGUMENTS...]\n");
         return 64;
     }
     const QString name = arguments.first();
     const HeadlessCompositor::Kind kind = name == QStringLiteral("kwin")     ? HeadlessCompositor::Kind::KWin
                                           : name == QStringLiteral("weston") ? HeadlessCompositor::Kind::Weston
+                                          : name == QStringLiteral("gnome")  ? HeadlessCompositor::Kind::Gnome
                                                                              : HeadlessCompositor::Kind::Sway;
     HeadlessCompositor::Options options;
     options.swayBar = arguments.mid(1, separator - 1).contains(QStringLiteral("--bar"));
