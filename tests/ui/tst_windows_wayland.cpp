@@ -1,7 +1,10 @@
-// The break screen and the card on real Wayland compositors with layers: headless sway with two outputs of
-// different sizes and a bar, and KWin with two outputs, started around this test by run_in_compositor. A native editor
-// window has the focus throughout; what the outputs show is read back from screenshots.
+// The break screen and the card on real Wayland compositors, started around this test by run_in_compositor: with
+// layers, headless sway with two outputs of different sizes and a bar, and KWin with two outputs; without, GNOME
+// Shell with two monitors, where the break is a fullscreen window per monitor and the card a desktop
+// notification. A native editor window has the focus throughout; what the outputs show is read back from
+// screenshots.
 #include "BreakWindow.h"
+#include "DesktopNotificationPresenter.h"
 #include "InAppNotificationWindowPresenter.h"
 #include "InMemoryUserDefaults.h"
 #include "LayerShell.h"
@@ -58,6 +61,23 @@ bool onKWin()
     return qEnvironmentVariable("VELTO_TEST_COMPOSITOR") == u"kwin"_s;
 }
 
+bool onGnome()
+{
+    return qEnvironmentVariable("VELTO_TEST_COMPOSITOR") == u"gnome"_s;
+}
+
+// GNOME Shell runs in unsafe mode for the tests, so it evaluates JavaScript; the value as JSON text.
+QJsonValue gnomeEval(const QString& script)
+{
+    auto eval =
+        QDBusMessage::createMethodCall(u"org.gnome.Shell"_s, u"/org/gnome/Shell"_s, u"org.gnome.Shell"_s, u"Eval"_s);
+    eval << script;
+    const QDBusMessage reply = QDBusConnection::sessionBus().call(eval);
+    if (!reply.arguments().value(0).toBool())
+        return {};
+    return QJsonDocument::fromJson("[" + reply.arguments().value(1).toString().toUtf8() + "]").array().first();
+}
+
 // Receives what a KWin script reports about the active window.
 class KWinReport final : public QObject {
     Q_OBJECT
@@ -78,6 +98,8 @@ public Q_SLOTS:
 // The app_id of the focused window, as the compositor says: sway's tree, or a one-line KWin script.
 QString focusedAppId()
 {
+    if (onGnome())
+        return gnomeEval(u"global.display.focus_window ? global.display.focus_window.get_wm_class() : ''"_s).toString();
     if (!onKWin())
         return focusedAppId(QJsonDocument::fromJson(run(u"swaymsg"_s, {u"-t"_s, u"get_tree"_s})).object());
     static KWinReport report;
@@ -119,6 +141,14 @@ QString focusedAppId()
 
 QImage screenshot(const QTemporaryDir& dir)
 {
+    if (onGnome()) {
+        const QString path = dir.filePath(u"screen.png"_s);
+        auto shot = QDBusMessage::createMethodCall(u"org.gnome.Shell.Screenshot"_s, u"/org/gnome/Shell/Screenshot"_s,
+                                                   u"org.gnome.Shell.Screenshot"_s, u"Screenshot"_s);
+        shot << false << false << path; // include_cursor, flash, filename
+        QDBusConnection::sessionBus().call(shot);
+        return QImage(path);
+    }
     if (onKWin()) {
         auto shot = QDBusMessage::createMethodCall(u"org.kde.KWin"_s, u"/Screenshot"_s, u"org.kde.kwin.Screenshot"_s,
                                                    u"screenshotFullscreen"_s);
@@ -139,10 +169,10 @@ private Q_SLOTS:
     void initTestCase()
     {
         const QString compositor = qEnvironmentVariable("VELTO_TEST_COMPOSITOR");
-        if (compositor != u"sway"_s && compositor != u"kwin"_s)
-            QSKIP("runs inside headless sway or KWin (run_in_compositor)");
+        if (compositor != u"sway"_s && compositor != u"kwin"_s && compositor != u"gnome"_s)
+            QSKIP("runs inside headless sway, KWin or GNOME Shell (run_in_compositor)");
         QVERIFY(QGuiApplication::platformName().startsWith(u"wayland"_s));
-        QVERIFY(LayerShell::isAvailable());
+        QCOMPARE(LayerShell::isAvailable(), !onGnome());
         QCOMPARE(QGuiApplication::screens().size(), 2);
         m_editor.start(QStringLiteral(VELTO_WAYLAND_TEST_WINDOW), {u"--app-id"_s, u"org.example.Editor"_s});
         QVERIFY(m_editor.waitForStarted(5000) && m_editor.waitForReadyRead(5000));
@@ -168,8 +198,15 @@ private Q_SLOTS:
         overlay.show(BreakType::Short);
         QCOMPARE(overlay.windows().size(), 2);
         for (QQuickWindow* window : overlay.windows()) {
-            QVERIFY(LayerShell::isPlaced(window));
+            QCOMPARE(LayerShell::isPlaced(window), !onGnome());
             QVERIFY(QTest::qWaitForWindowExposed(window));
+        }
+        if (onGnome()) {
+            // One fullscreen window on each monitor.
+            QTRY_COMPARE(gnomeEval(u"global.get_window_actors().map(a => a.meta_window)"
+                                   u".filter(w => w.is_fullscreen()).map(w => w.get_monitor()).sort().join()"_s)
+                             .toString(),
+                         u"0,1"_s);
         }
         QTest::qWait(BreakWindow::fadeMilliseconds + 300);
         const QImage shot = screenshot(m_dir);
@@ -192,6 +229,8 @@ private Q_SLOTS:
     // The card sits at the top left of the main output, where it was asked to be, and the focus never moves.
     void theCardNeverTakesTheFocus()
     {
+        if (onGnome())
+            QSKIP("no layers on GNOME Shell: the card comes as a notification");
         InAppNotificationWindowPresenter presenter([] { return false; });
         auto model = std::make_shared<PreBreakNotificationDisplayModel>(BreakType::Short, 60);
         presenter.show(model, {}, {}, {}, {});
@@ -226,6 +265,28 @@ private Q_SLOTS:
         presenter.hide();
         QTRY_VERIFY_WITH_TIMEOUT(presenter.panel() == nullptr, 3000);
         setFocusedOutputSource({});
+    }
+
+    // Without layers the card is a notification of the shell's: the editor keeps the focus while it shows and
+    // after "3 min" is clicked on it, and the click reaches Velto.
+    void withoutLayersTheCardIsANotification()
+    {
+        if (!onGnome())
+            QSKIP("this compositor has layers");
+        auto presenter = DesktopNotificationPresenter::create(QDBusConnection::sessionBus());
+        QVERIFY(presenter != nullptr);
+        double paused = 0;
+        presenter->show(std::make_shared<PreBreakNotificationDisplayModel>(BreakType::Short, 60), {},
+                        [&](double seconds) { paused = seconds; }, {}, {});
+        const QString notification = u"Main.messageTray.getSources().flatMap(s => s.notifications)"
+                                     u".find(n => n.source.title === 'Velto')"_s;
+        QTRY_VERIFY(gnomeEval(notification + u" !== undefined"_s).toBool());
+        QTest::qWait(600);
+        QCOMPARE(focusedAppId(), u"org.example.Editor"_s);
+        QVERIFY(
+            gnomeEval(notification + u".actions.find(a => a.label === '3 min').callback() === undefined"_s).toBool());
+        QTRY_COMPARE(paused, 180.0);
+        QCOMPARE(focusedAppId(), u"org.example.Editor"_s);
     }
 
 private:
