@@ -169,7 +169,7 @@ int main(int argc, char** argv)
                 "break: %lld kB\n",
                 pssBefore, pssShown, pssShown - pssBefore, pssBetween, pssRunning);
     std::printf("  PSS once the windows have gone: %lld kB (%+lld kB over before)\n", pssGone, pssGone - pssBefore);
-    std::printf("  CPU during the break: %.1f %% of one core  (target <= 15 %%)\n", cpuShare * 100.0);
+    std::printf("  CPU during the break: %.1f %% of one core  (target <= 5 %%)\n", cpuShare * 100.0);
     return 0;
 }
 

@@ -9,6 +9,7 @@
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPointer>
@@ -289,6 +290,34 @@ private Q_SLOTS:
         QVERIFY(ones.second < zeros.second);
         QCOMPARE(ones.first, zeros.first);
         QVERIFY(ones.first > 0);
+    }
+
+    // Each second's step of the ring glides over that second, in no more frames than the arc has pixels to
+    // travel and never more than 20 a second; the first value shows at once.
+    void theRingGlidesInPacedSteps()
+    {
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nRingProgress { progress: 0.5 }\n",
+                          QUrl(u"qrc:/Velto/Overlay/overlay/Probe.qml"_s));
+        std::unique_ptr<QObject> ring(component.create());
+        QVERIFY2(ring, qPrintable(component.errorString()));
+        QCOMPARE(ring->property("shownProgress").toReal(), 0.5);
+        for (const auto& [to, mostSteps] : {std::pair{0.55, 21}, std::pair{0.552, 3}}) {
+            QList<qreal> seen;
+            QElapsedTimer elapsed;
+            elapsed.start();
+            ring->setProperty("progress", to);
+            while (elapsed.elapsed() < 1300) {
+                QTest::qWait(5);
+                const qreal shown = ring->property("shownProgress").toReal();
+                if (seen.isEmpty() || seen.last() != shown)
+                    seen.append(shown);
+                QVERIFY2(shown < to || elapsed.elapsed() >= 950, qPrintable(QString::number(elapsed.elapsed())));
+            }
+            QCOMPARE(seen.last(), to);
+            QVERIFY2(seen.size() >= 2 && seen.size() <= mostSteps, qPrintable(QString::number(seen.size())));
+        }
     }
 
     void dimLayerOnScreen()
