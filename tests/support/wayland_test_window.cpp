@@ -1,6 +1,7 @@
 // A bare Wayland client window (xdg-shell, shared-memory buffers) for tests against headless compositors: it
 // names its app_id and title like any application, prints "mapped WIDTHxHEIGHT" once the compositor has its
-// first frame, and stays until stdin closes, the compositor closes it, or it is killed.
+// first frame, then "key CODE" for every key pressed while it has the keyboard focus (evdev codes), and stays
+// until stdin closes, the compositor closes it, or it is killed.
 // Usage: wayland_test_window [--app-id ID] [--title TEXT] [--fullscreen] [--output INDEX|NAME]
 // --output picks the output to go fullscreen on, by its place in the compositor's announcements (from 0) or by
 // its name (wl_output 4); xdg-shell lets a client choose an output only when fullscreen, so it needs --fullscreen.
@@ -31,6 +32,8 @@ struct Window {
     wl_shm* shm = nullptr;
     xdg_wm_base* shell = nullptr;
     std::vector<Output> outputs;
+    wl_seat* seat = nullptr;
+    wl_keyboard* keyboard = nullptr;
     wl_surface* surface = nullptr;
     xdg_surface* xdgSurface = nullptr;
     xdg_toplevel* toplevel = nullptr;
@@ -59,6 +62,34 @@ void outputDescription(void*, wl_output*, const char*) {}
 const wl_output_listener outputListener = {outputGeometry, outputMode, outputDone,
                                            outputScale,    outputName, outputDescription};
 
+void keymap(void*, wl_keyboard*, uint32_t, int32_t fd, uint32_t)
+{
+    close(fd);
+}
+void enter(void*, wl_keyboard*, uint32_t, wl_surface*, wl_array*) {}
+void leave(void*, wl_keyboard*, uint32_t, wl_surface*) {}
+void key(void*, wl_keyboard*, uint32_t, uint32_t, uint32_t code, uint32_t state)
+{
+    if (state == WL_KEYBOARD_KEY_STATE_PRESSED) {
+        std::printf("key %u\n", code);
+        std::fflush(stdout);
+    }
+}
+void modifiers(void*, wl_keyboard*, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t) {}
+void repeatInfo(void*, wl_keyboard*, int32_t, int32_t) {}
+const wl_keyboard_listener keyboardListener = {keymap, enter, leave, key, modifiers, repeatInfo};
+
+void seatCapabilities(void* data, wl_seat* seat, uint32_t capabilities)
+{
+    auto* window = static_cast<Window*>(data);
+    if ((capabilities & WL_SEAT_CAPABILITY_KEYBOARD) != 0 && !window->keyboard) {
+        window->keyboard = wl_seat_get_keyboard(seat);
+        wl_keyboard_add_listener(window->keyboard, &keyboardListener, window);
+    }
+}
+void seatName(void*, wl_seat*, const char*) {}
+const wl_seat_listener seatListener = {seatCapabilities, seatName};
+
 void ping(void*, xdg_wm_base* shell, uint32_t serial)
 {
     xdg_wm_base_pong(shell, serial);
@@ -75,6 +106,10 @@ void global(void* data, wl_registry* registry, uint32_t name, const char* interf
     } else if (std::strcmp(interface, xdg_wm_base_interface.name) == 0) {
         window->shell = static_cast<xdg_wm_base*>(wl_registry_bind(registry, name, &xdg_wm_base_interface, 1));
         xdg_wm_base_add_listener(window->shell, &shellListener, window);
+    } else if (std::strcmp(interface, wl_seat_interface.name) == 0 && !window->seat) {
+        window->seat =
+            static_cast<wl_seat*>(wl_registry_bind(registry, name, &wl_seat_interface, std::min(version, 4u)));
+        wl_seat_add_listener(window->seat, &seatListener, window);
     } else if (std::strcmp(interface, wl_output_interface.name) == 0) {
         // Outputs are only listed here; the listener is added once the vector stops moving.
         const uint32_t bound = version < 4 ? version : 4;
