@@ -124,7 +124,9 @@ public:
             return false;
         }
         m_compositor = startGroup(command, env, m_base->filePath(QStringLiteral("compositor.log")));
-        if (!m_compositor || !waitUntilReady(options, QDeadlineTimer(15000))) {
+        // GNOME Shell loads its whole JavaScript shell first: on a loaded machine it needs the longer wait.
+        const int startMs = kind == Kind::Gnome ? 40000 : 15000;
+        if (!m_compositor || !waitUntilReady(options, QDeadlineTimer(startMs))) {
             qWarning().noquote() << "HeadlessCompositor: the compositor did not come up; its output:\n"
                                  << log().right(4000);
             stop();
