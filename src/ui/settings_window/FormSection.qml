@@ -21,20 +21,21 @@ ColumnLayout {
         Accessible.role: Accessible.Heading
     }
 
-    Rectangle {
+    // The card is the rows' background: the rows' own layout sizes it, so it never lags behind a row whose
+    // height changes while the window is laid out.
+    Control {
         Layout.fillWidth: true
-        implicitHeight: body.implicitHeight + 22
-        radius: 8
-        color: Theme.section
-        border.color: Theme.separator
-
-        ColumnLayout {
+        topPadding: 11
+        bottomPadding: 11
+        leftPadding: 14
+        rightPadding: 14
+        background: Rectangle {
+            radius: 8
+            color: Theme.section
+            border.color: Theme.separator
+        }
+        contentItem: ColumnLayout {
             id: body
-            anchors.fill: parent
-            anchors.leftMargin: 14
-            anchors.rightMargin: 14
-            anchors.topMargin: 11
-            anchors.bottomMargin: 11
             spacing: 10
         }
     }
