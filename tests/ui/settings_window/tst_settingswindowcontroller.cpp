@@ -112,9 +112,15 @@ private:
         return found ? found->findChild<QObject*>(u"picker"_s) : nullptr;
     }
     static bool isShown(QObject* item) { return item && item->property("visible").toBool(); }
+    static bool onSway() { return qEnvironmentVariable("VELTO_TEST_COMPOSITOR") == u"sway"_s; }
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QT_QUICK_CONTROLS_STYLE", "Basic"); }
+    void initTestCase()
+    {
+        // Off screen the plain style keeps the suite quick; on a compositor the window looks as users see it.
+        if (!onSway())
+            qputenv("QT_QUICK_CONTROLS_STYLE", "Basic");
+    }
 
     void opensOnceBringsForwardAndBuildsAFreshWindowAfterClosing()
     {
@@ -424,6 +430,28 @@ private Q_SLOTS:
         QCOMPARE(notice->property("text").toString(), detectionCoverage(f.detectionSources, u"GNOME"_s).notice);
         QCOMPARE(f.pane(1)->findChild<QObject*>(u"typingFootnote"_s)->property("text").toString(),
                  typingNote + u" Any keyboard or pointer input counts on this desktop."_s);
+    }
+
+    // On a real compositor, in the style users get, the General pane's switches stand one under another: the
+    // form's card once kept a row's contents where they had been during the first layout, over the next row.
+    void formRowsStandOneUnderAnother()
+    {
+        if (!onSway())
+            QSKIP("runs inside headless sway (run_in_compositor)");
+        Fixture f;
+        QQuickWindow* window = f.open();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        QTest::qWait(1000);
+        QObject* pane = f.pane(0);
+        qreal below = 0;
+        for (const char* name : {"isEnabled", "showTimerInMenuBar", "launchAtLogin"}) {
+            const auto* row = pane->findChild<QQuickItem*>(QLatin1StringView(name));
+            const auto* toggle = row ? row->findChild<QQuickItem*>(u"switch"_s) : nullptr;
+            QVERIFY(toggle);
+            const qreal top = toggle->mapToScene(QPointF()).y();
+            QVERIFY2(top >= below, name);
+            below = top + toggle->height();
+        }
     }
 
     void aboutPaneChecksQuietlyEachTimeItIsShown()
