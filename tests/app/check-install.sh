@@ -17,7 +17,9 @@ for file in bin/velto \
             share/applications/com.velto.app.desktop \
             share/metainfo/com.velto.app.metainfo.xml \
             share/icons/hicolor/scalable/apps/com.velto.app.svg \
-            share/icons/hicolor/symbolic/apps/com.velto.app-symbolic.svg; do
+            share/icons/hicolor/symbolic/apps/com.velto.app-symbolic.svg \
+            share/gnome-shell/extensions/velto@velto.app/metadata.json \
+            share/gnome-shell/extensions/velto@velto.app/extension.js; do
     [ -f "$prefix/$file" ] || fail "$file was not installed"
 done
 [ -x "$prefix/bin/velto" ] || fail "bin/velto is not executable"

@@ -52,6 +52,9 @@ public:
         // KWin only: restricted interfaces (org_kde_plasma_window_management, org_kde_kwin_fake_input, …) KWin
         // offers the executable at each absolute path, through a desktop file written before it starts.
         QHash<QString, QStringList> kwinInterfaces;
+        // GNOME Shell only: extension folders (named by their UUIDs), installed for the session's user and
+        // enabled before the shell starts.
+        QStringList gnomeExtensions;
     };
 
     HeadlessCompositor() = default;
@@ -116,7 +119,7 @@ public:
             command = kwinCommand(options, env);
             break;
         case Kind::Gnome:
-            command = gnomeCommand(env);
+            command = gnomeCommand(options, env);
             break;
         }
         if (command.isEmpty()) {
@@ -554,8 +557,25 @@ private:
                 QStringLiteral("--no-global-shortcuts")};
     }
 
-    QStringList gnomeCommand(QProcessEnvironment& env)
+    QStringList gnomeCommand(const Options& options, QProcessEnvironment& env)
     {
+        // Settings from a key file, so the extensions are enabled before the shell reads them.
+        QStringList uuids;
+        for (const QString& folder : options.gnomeExtensions) {
+            const QString uuid = QFileInfo(folder).fileName();
+            const QString target = m_base->filePath(QStringLiteral("home/.local/share/gnome-shell/extensions/") + uuid);
+            QDir().mkpath(target);
+            for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files)) {
+                if (!QFile::copy(file.filePath(), target + QLatin1Char('/') + file.fileName()))
+                    return {};
+            }
+            uuids << QLatin1Char('\'') + uuid + QLatin1Char('\'');
+        }
+        if (!writeFile(
+                m_base->filePath(QStringLiteral("home/.config/glib-2.0/settings/keyfile")),
+                QStringLiteral("[org/gnome/shell]\nenabled-extensions=[%1]\n").arg(uuids.join(QLatin1Char(',')))))
+            return {};
+        env.insert(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("keyfile"));
         // The shell asks logind about seats when /run/systemd/seats exists; on machines where it does but no
         // logind runs, the shell starts in a mount namespace where that folder is empty. Its system bus is a
         // private one too.

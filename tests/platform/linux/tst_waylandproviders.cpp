@@ -7,6 +7,11 @@
 #include "wayland/WaylandProviders.h"
 
 #include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -212,6 +217,77 @@ private Q_SLOTS:
         QVERIFY(!pass().isInMeeting);
     }
 
+    // GNOME Shell with Velto's extension: the window facts, to the owner of Velto's name alone, and a signal
+    // without data when they change.
+    void gnomeExtensionTellsVeltoAlone()
+    {
+        if (!HeadlessCompositor::isAvailable(HeadlessCompositor::Kind::Gnome))
+            QSKIP("GNOME Shell is not installed");
+        HeadlessCompositor::Options options;
+        options.gnomeExtensions = {QStringLiteral(VELTO_GNOME_EXTENSION)};
+        QVERIFY(m_compositor.start(HeadlessCompositor::Kind::Gnome, options));
+        QDBusConnection velto = QDBusConnection::connectToBus(m_compositor.busAddress(), u"velto"_s);
+        QDBusConnection stranger = QDBusConnection::connectToBus(m_compositor.busAddress(), u"stranger"_s);
+        QVERIFY(velto.registerService(u"com.velto.app"_s));
+        const auto ask = [](QDBusConnection& bus, const QString& method) {
+            return bus.call(QDBusMessage::createMethodCall(u"com.velto.app.Shell"_s, u"/com/velto/app/Shell"_s,
+                                                           u"com.velto.app.Shell1"_s, method));
+        };
+        const auto focused = [&] {
+            const QDBusMessage reply = ask(velto, u"FocusedWindow"_s);
+            return qdbus_cast<QVariantMap>(reply.arguments().value(0));
+        };
+        QTRY_COMPARE(ask(velto, u"Windows"_s).type(), QDBusMessage::ReplyMessage);
+        QVERIFY(velto.connect(u"com.velto.app.Shell"_s, u"/com/velto/app/Shell"_s, u"com.velto.app.Shell1"_s,
+                              u"WindowsChanged"_s, this, SLOT(shellWindowsChanged())));
+        const int& changes = m_shellChanges;
+
+        QVERIFY(open({u"--app-id"_s, u"us.zoom.Zoom"_s, u"--title"_s, u"Zoom Meeting"_s}));
+        QTRY_COMPARE(focused().value(u"appId"_s).toString(), u"us.zoom.Zoom"_s);
+        QTRY_VERIFY(changes > 0);
+        QVariantMap window = focused();
+        QCOMPARE(window.value(u"title"_s).toString(), u"Zoom Meeting"_s);
+        QVERIFY(window.value(u"pid"_s).toInt() > 0);
+        QVERIFY(!window.value(u"fullscreen"_s).toBool());
+        QVERIFY(window.value(u"primary"_s).toBool());
+
+        // A fullscreen game on the second monitor.
+        QVERIFY(open({u"--app-id"_s, u"com.example.Racer"_s, u"--fullscreen"_s, u"--output"_s, u"1"_s}));
+        QTRY_COMPARE(focused().value(u"appId"_s).toString(), u"com.example.Racer"_s);
+        window = focused();
+        QVERIFY(window.value(u"fullscreen"_s).toBool());
+        QVERIFY(!window.value(u"primary"_s).toBool());
+        QStringList titles;
+        const QDBusArgument list = ask(velto, u"Windows"_s).arguments().value(0).value<QDBusArgument>();
+        list.beginArray();
+        while (!list.atEnd()) {
+            QVariantMap each;
+            list >> each;
+            titles << each.value(u"appId"_s).toString();
+        }
+        list.endArray();
+        titles.sort();
+        QCOMPARE(titles, (QStringList{u"com.example.Racer"_s, u"us.zoom.Zoom"_s}));
+
+        // Anyone else on the bus is refused.
+        QCOMPARE(ask(stranger, u"FocusedWindow"_s).errorName(), u"org.freedesktop.DBus.Error.AccessDenied"_s);
+        QCOMPARE(ask(stranger, u"Windows"_s).errorName(), u"org.freedesktop.DBus.Error.AccessDenied"_s);
+
+        // Switched off, it leaves the bus; switched on again, it answers as before.
+        const auto shellOwned = [&] {
+            return velto.interface()->isServiceRegistered(u"com.velto.app.Shell"_s).value();
+        };
+        QVERIFY(m_compositor.gnomeEval(u"Main.extensionManager.disableExtension('velto@velto.app')"_s));
+        QTRY_VERIFY(!shellOwned());
+        QVERIFY(m_compositor.gnomeEval(u"Main.extensionManager.enableExtension('velto@velto.app')"_s));
+        QTRY_COMPARE(focused().value(u"appId"_s).toString(), u"com.example.Racer"_s);
+        QDBusConnection::disconnectFromBus(u"velto"_s);
+        QDBusConnection::disconnectFromBus(u"stranger"_s);
+    }
+
+public Q_SLOTS:
+    void shellWindowsChanged() { ++m_shellChanges; }
+
 private:
     void startSession(HeadlessCompositor::Kind kind, const HeadlessCompositor::Options& options,
                       bool expectWindows = true)
@@ -246,6 +322,7 @@ private:
     QProcessEnvironment m_environment;
     HeadlessCompositor m_compositor;
     SystemDetection m_detection;
+    int m_shellChanges = 0;
 };
 
 QTEST_GUILESS_MAIN(TestWaylandProviders)
