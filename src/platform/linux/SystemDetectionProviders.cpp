@@ -5,6 +5,7 @@
 #include "detection/SystemMediaProviders.h"
 #include "detection/SystemX11Providers.h"
 #include "detection/X11KeyDownTime.h"
+#include "wayland/GnomeShellToplevels.h"
 #include "wayland/KWinScriptToplevels.h"
 #include "wayland/WaylandProviders.h"
 
@@ -95,6 +96,10 @@ SystemDetection makeSystemDetection(std::shared_ptr<DesktopEntryIndex> desktopEn
             QMetaObject::invokeMethod(
                 script.get(), [object = script.get()] { object->start(); }, Qt::QueuedConnection);
         });
+        // GNOME: Velto's Shell extension, when installed and enabled; it may come later in the session.
+        auto gnome = std::make_shared<GnomeShellToplevels>(bus, link);
+        gnome->start();
+        candidates.push_back(gnome);
     }
     auto toplevels = std::make_shared<FirstAvailableToplevels>(std::move(candidates));
     providers.workspace = std::make_unique<WaylandWorkspace>(

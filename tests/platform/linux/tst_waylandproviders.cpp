@@ -3,6 +3,7 @@
 #include "MessageCapture.h"
 #include "SystemDetectionProviders.h"
 #include "detection/DetectionRules.h"
+#include "wayland/GnomeShellToplevels.h"
 #include "wayland/KWinScriptToplevels.h"
 #include "wayland/WaylandProviders.h"
 
@@ -242,8 +243,25 @@ private Q_SLOTS:
                               u"WindowsChanged"_s, this, SLOT(shellWindowsChanged())));
         const int& changes = m_shellChanges;
 
+        // Velto's source, beside the extension: what it reports is what Smart Pause reads.
+        const auto link = WaylandLink::connect(m_compositor.socketPath().toLocal8Bit());
+        QVERIFY(link);
+        GnomeShellToplevels source(velto, link);
+        source.start();
+        const auto front = [&source]() -> WaylandToplevel {
+            for (const WaylandToplevel& toplevel : source.facts().toplevels) {
+                if (toplevel.activated)
+                    return toplevel;
+            }
+            return {};
+        };
+
         QVERIFY(open({u"--app-id"_s, u"us.zoom.Zoom"_s, u"--title"_s, u"Zoom Meeting"_s}));
         QTRY_COMPARE(focused().value(u"appId"_s).toString(), u"us.zoom.Zoom"_s);
+        QTRY_COMPARE(front().appId, u"us.zoom.Zoom"_s);
+        QCOMPARE(source.name(), u"gnome-extension"_s);
+        QVERIFY(front().pid > 0);
+        QCOMPARE(front().output, 0);
         QTRY_VERIFY(changes > 0);
         QVariantMap window = focused();
         QCOMPARE(window.value(u"title"_s).toString(), u"Zoom Meeting"_s);
@@ -257,6 +275,10 @@ private Q_SLOTS:
         window = focused();
         QVERIFY(window.value(u"fullscreen"_s).toBool());
         QVERIFY(!window.value(u"primary"_s).toBool());
+        QTRY_COMPARE(front().appId, u"com.example.Racer"_s);
+        QVERIFY(front().fullscreen);
+        QCOMPARE(front().output, 1);
+        QCOMPARE(source.facts().toplevels.size(), 2);
         QStringList titles;
         const QDBusArgument list = ask(velto, u"Windows"_s).arguments().value(0).value<QDBusArgument>();
         list.beginArray();
@@ -279,8 +301,10 @@ private Q_SLOTS:
         };
         QVERIFY(m_compositor.gnomeEval(u"Main.extensionManager.disableExtension('velto@velto.app')"_s));
         QTRY_VERIFY(!shellOwned());
+        QTRY_VERIFY(!source.isAvailable()); // neutral answers, as without the extension
         QVERIFY(m_compositor.gnomeEval(u"Main.extensionManager.enableExtension('velto@velto.app')"_s));
         QTRY_COMPARE(focused().value(u"appId"_s).toString(), u"com.example.Racer"_s);
+        QTRY_COMPARE(front().appId, u"com.example.Racer"_s);
         QDBusConnection::disconnectFromBus(u"velto"_s);
         QDBusConnection::disconnectFromBus(u"stranger"_s);
     }

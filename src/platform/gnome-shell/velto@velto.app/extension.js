@@ -29,6 +29,7 @@ function describe(window, focused) {
         ? app.get_id().replace(/\.desktop$/, '')
         : window.get_gtk_application_id() || window.get_wm_class() || '';
     const monitor = window.get_monitor();
+    const frame = window.get_frame_rect();
     return {
         appId: new GLib.Variant('s', appId),
         title: new GLib.Variant('s', window.get_title() || ''),
@@ -38,6 +39,10 @@ function describe(window, focused) {
         focused: new GLib.Variant('b', window === focused),
         monitor: new GLib.Variant('i', monitor),
         primary: new GLib.Variant('b', monitor === global.display.get_primary_monitor()),
+        x: new GLib.Variant('i', frame.x),
+        y: new GLib.Variant('i', frame.y),
+        width: new GLib.Variant('i', frame.width),
+        height: new GLib.Variant('i', frame.height),
     };
 }
 
@@ -57,6 +62,8 @@ class WindowFacts {
             global.display.connect('notify::focus-window', () => this._changed()),
             global.display.connect('window-created', (_display, window) => this._track(window)),
             global.display.connect('in-fullscreen-changed', () => this._changed()),
+            // A window that moves within its monitor changes nothing Velto looks at.
+            global.display.connect('window-entered-monitor', () => this._changed()),
         ];
         for (const actor of global.get_window_actors())
             this._track(actor.meta_window);
