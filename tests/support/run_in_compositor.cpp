@@ -1,6 +1,7 @@
 // Runs a command inside a private headless Wayland compositor and answers with its exit code, so tests whose
 // Qt connects at start (the windows' tests) can run on sway or KWin as they run on Xvfb.
-// Usage: run_in_compositor sway|kwin|weston|gnome [--bar] -- COMMAND [ARGUMENTS…]
+// Usage: run_in_compositor sway|kwin|weston|gnome [--bar] [--extension DIR] -- COMMAND [ARGUMENTS…]
+// --extension installs and enables a GNOME Shell extension from that folder (GNOME Shell only).
 // The command also finds SWAYSOCK (sway) and VELTO_TEST_COMPOSITOR (the compositor's name) in its environment.
 #include "HeadlessCompositor.h"
 
@@ -14,7 +15,9 @@ int main(int argc, char** argv)
     QStringList arguments = app.arguments().mid(1);
     const qsizetype separator = arguments.indexOf(QStringLiteral("--"));
     if (arguments.isEmpty() || separator < 1 || separator == arguments.size() - 1) {
-        std::fprintf(stderr, "usage: run_in_compositor sway|kwin|weston|gnome [--bar] -- COMMAND [ARGUMENTS...]\n");
+        std::fprintf(
+            stderr,
+            "usage: run_in_compositor sway|kwin|weston|gnome [--bar] [--extension DIR] -- COMMAND [ARGUMENTS...]\n");
         return 64;
     }
     const QString name = arguments.first();
@@ -23,7 +26,11 @@ int main(int argc, char** argv)
                                           : name == QStringLiteral("gnome")  ? HeadlessCompositor::Kind::Gnome
                                                                              : HeadlessCompositor::Kind::Sway;
     HeadlessCompositor::Options options;
-    options.swayBar = arguments.mid(1, separator - 1).contains(QStringLiteral("--bar"));
+    const QStringList flags = arguments.mid(1, separator - 1);
+    options.swayBar = flags.contains(QStringLiteral("--bar"));
+    for (qsizetype i = flags.indexOf(QStringLiteral("--extension")); i >= 0 && i + 1 < flags.size();
+         i = flags.indexOf(QStringLiteral("--extension"), i + 2))
+        options.gnomeExtensions << flags.at(i + 1);
     if (!HeadlessCompositor::isAvailable(kind)) {
         std::fprintf(stderr, "run_in_compositor: %s is not installed\n", qPrintable(name));
         return 77;
