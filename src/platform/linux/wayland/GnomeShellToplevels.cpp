@@ -12,7 +12,7 @@ namespace velto {
 GnomeShellToplevels::GnomeShellToplevels(QDBusConnection bus, std::shared_ptr<WaylandLink> outputs, QObject* parent)
     : QObject(parent)
     , m_bus(std::move(bus))
-    , m_outputs(std::move(outputs))
+    , m_reported(std::move(outputs))
 {}
 
 GnomeShellToplevels::~GnomeShellToplevels() = default;
@@ -25,7 +25,7 @@ void GnomeShellToplevels::start()
     connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString&, const QString&, const QString& owner) {
                 if (owner.isEmpty())
-                    forget();
+                    m_reported.clear();
                 else
                     ask();
             });
@@ -48,7 +48,7 @@ void GnomeShellToplevels::ask()
         m_asking = false;
         if (reply->isError()) {
             // No extension (or not ours to ask): neutral answers, as without it.
-            forget();
+            m_reported.clear();
         } else {
             QList<WaylandToplevel> toplevels;
             QList<QRect> frames;
@@ -69,28 +69,16 @@ void GnomeShellToplevels::ask()
                                     window.value(u"width"_s).toInt(), window.value(u"height"_s).toInt()));
             }
             list.endArray();
-            QMutexLocker lock(&m_mutex);
-            m_toplevels = std::move(toplevels);
-            m_frames = std::move(frames);
-            m_answered = true;
+            m_reported.set(std::move(toplevels), std::move(frames));
         }
         if (std::exchange(m_askAgain, false))
             ask();
     });
 }
 
-void GnomeShellToplevels::forget()
-{
-    QMutexLocker lock(&m_mutex);
-    m_answered = false;
-    m_toplevels.clear();
-    m_frames.clear();
-}
-
 bool GnomeShellToplevels::isAvailable() const
 {
-    QMutexLocker lock(&m_mutex);
-    return m_answered && m_outputs && m_outputs->isConnected();
+    return m_reported.isAvailable();
 }
 
 QString GnomeShellToplevels::name() const
@@ -100,22 +88,7 @@ QString GnomeShellToplevels::name() const
 
 WaylandFacts GnomeShellToplevels::facts() const
 {
-    if (!isAvailable())
-        return {};
-    WaylandFacts facts;
-    facts.outputs = m_outputs->facts().outputs;
-    QMutexLocker lock(&m_mutex);
-    facts.toplevels = m_toplevels;
-    for (qsizetype i = 0; i < facts.toplevels.size(); ++i) {
-        const QPoint centre = m_frames.at(i).center();
-        for (qsizetype o = 0; o < facts.outputs.size(); ++o) {
-            if (facts.outputs.at(o).geometry.contains(centre)) {
-                facts.toplevels[i].output = int(o);
-                break;
-            }
-        }
-    }
-    return facts;
+    return m_reported.facts();
 }
 
 } // namespace velto

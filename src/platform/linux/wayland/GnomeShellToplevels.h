@@ -3,7 +3,6 @@
 #include "WaylandProviders.h"
 
 #include <QDBusConnection>
-#include <QMutex>
 #include <QObject>
 
 #include <memory>
@@ -41,17 +40,11 @@ private Q_SLOTS:
     void ask();
 
 private:
-    void forget();
-
     QDBusConnection m_bus;
-    std::shared_ptr<WaylandLink> m_outputs;
     QDBusServiceWatcher* m_watcher = nullptr;
     bool m_asking = false;
     bool m_askAgain = false;
-    mutable QMutex m_mutex;
-    bool m_answered = false;
-    QList<WaylandToplevel> m_toplevels;
-    QList<QRect> m_frames;
+    ReportedToplevels m_reported;
 };
 
 } // namespace velto

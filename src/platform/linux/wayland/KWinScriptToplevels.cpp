@@ -22,8 +22,8 @@ const QString scriptingInterface = u"org.kde.kwin.Scripting"_s;
 KWinScriptToplevels::KWinScriptToplevels(QDBusConnection bus, std::shared_ptr<WaylandLink> outputs, QObject* parent)
     : QObject(parent)
     , m_bus(std::move(bus))
-    , m_outputs(std::move(outputs))
     , m_script(QDir::tempPath() + u"/velto-kwin-XXXXXX.js"_s)
+    , m_reported(std::move(outputs))
 {}
 
 KWinScriptToplevels::~KWinScriptToplevels()
@@ -124,16 +124,12 @@ void KWinScriptToplevels::update(const QString& windows)
         geometries.append(QRect(window.value(u"x"_s).toInt(), window.value(u"y"_s).toInt(),
                                 window.value(u"width"_s).toInt(), window.value(u"height"_s).toInt()));
     }
-    QMutexLocker lock(&m_mutex);
-    m_toplevels = std::move(toplevels);
-    m_geometries = std::move(geometries);
-    m_reported = true;
+    m_reported.set(std::move(toplevels), std::move(geometries));
 }
 
 bool KWinScriptToplevels::isAvailable() const
 {
-    QMutexLocker lock(&m_mutex);
-    return m_reported && m_outputs && m_outputs->isConnected();
+    return m_reported.isAvailable();
 }
 
 QString KWinScriptToplevels::name() const
@@ -143,22 +139,7 @@ QString KWinScriptToplevels::name() const
 
 WaylandFacts KWinScriptToplevels::facts() const
 {
-    if (!isAvailable())
-        return {};
-    WaylandFacts facts;
-    facts.outputs = m_outputs->facts().outputs;
-    QMutexLocker lock(&m_mutex);
-    facts.toplevels = m_toplevels;
-    for (qsizetype i = 0; i < facts.toplevels.size(); ++i) {
-        const QPoint centre = m_geometries.at(i).center();
-        for (qsizetype o = 0; o < facts.outputs.size(); ++o) {
-            if (facts.outputs.at(o).geometry.contains(centre)) {
-                facts.toplevels[i].output = int(o);
-                break;
-            }
-        }
-    }
-    return facts;
+    return m_reported.facts();
 }
 
 } // namespace velto

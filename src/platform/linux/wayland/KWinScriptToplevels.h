@@ -4,7 +4,6 @@
 
 #include <QDBusConnection>
 #include <QDBusContext>
-#include <QMutex>
 #include <QObject>
 #include <QTemporaryFile>
 
@@ -44,15 +43,11 @@ private:
     void run(int scriptId);
 
     QDBusConnection m_bus;
-    std::shared_ptr<WaylandLink> m_outputs;
     QTemporaryFile m_script;
     QString m_kwinPeer;
     bool m_loaded = false;
     LogOnce m_log;
-    mutable QMutex m_mutex;
-    bool m_reported = false;
-    QList<WaylandToplevel> m_toplevels;
-    QList<QRect> m_geometries;
+    ReportedToplevels m_reported;
 };
 
 } // namespace velto

@@ -33,6 +33,52 @@ WaylandFacts WaylandLinkToplevels::facts() const
     return isAvailable() ? m_link->facts() : WaylandFacts();
 }
 
+ReportedToplevels::ReportedToplevels(std::shared_ptr<WaylandLink> outputs)
+    : m_outputs(std::move(outputs))
+{}
+
+void ReportedToplevels::set(QList<WaylandToplevel> toplevels, QList<QRect> frames)
+{
+    QMutexLocker lock(&m_mutex);
+    m_toplevels = std::move(toplevels);
+    m_frames = std::move(frames);
+    m_reported = true;
+}
+
+void ReportedToplevels::clear()
+{
+    QMutexLocker lock(&m_mutex);
+    m_reported = false;
+    m_toplevels.clear();
+    m_frames.clear();
+}
+
+bool ReportedToplevels::isAvailable() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_reported && m_outputs && m_outputs->isConnected();
+}
+
+WaylandFacts ReportedToplevels::facts() const
+{
+    if (!isAvailable())
+        return {};
+    WaylandFacts facts;
+    facts.outputs = m_outputs->facts().outputs;
+    QMutexLocker lock(&m_mutex);
+    facts.toplevels = m_toplevels;
+    for (qsizetype i = 0; i < facts.toplevels.size() && i < m_frames.size(); ++i) {
+        const QPoint centre = m_frames.at(i).center();
+        for (qsizetype o = 0; o < facts.outputs.size(); ++o) {
+            if (facts.outputs.at(o).geometry.contains(centre)) {
+                facts.toplevels[i].output = int(o);
+                break;
+            }
+        }
+    }
+    return facts;
+}
+
 FirstAvailableToplevels::FirstAvailableToplevels(std::vector<std::shared_ptr<ToplevelSource>> candidates)
     : m_candidates(std::move(candidates))
 {}

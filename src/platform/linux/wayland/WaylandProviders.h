@@ -41,6 +41,26 @@ private:
     std::shared_ptr<WaylandLink> m_link;
 };
 
+// Windows that a helper inside the compositor reported (a KWin script, a GNOME Shell extension), with their
+// frames in the layout, which place each on an output of our Wayland connection. Any thread.
+class ReportedToplevels final {
+public:
+    explicit ReportedToplevels(std::shared_ptr<WaylandLink> outputs);
+    // frames[i] is toplevels[i]'s.
+    void set(QList<WaylandToplevel> toplevels, QList<QRect> frames);
+    // Nothing reported (the helper went away): the answers turn neutral.
+    void clear();
+    [[nodiscard]] bool isAvailable() const;
+    [[nodiscard]] WaylandFacts facts() const;
+
+private:
+    std::shared_ptr<WaylandLink> m_outputs;
+    mutable QMutex m_mutex;
+    bool m_reported = false;
+    QList<WaylandToplevel> m_toplevels;
+    QList<QRect> m_frames;
+};
+
 // The first of several sources that is available at the time of asking, so a source that comes later in a
 // session (a compositor script that starts reporting, an extension enabled after login) takes over by itself.
 class FirstAvailableToplevels final : public ToplevelSource {
