@@ -3,15 +3,13 @@
 // Shell with two monitors, where the break is a fullscreen window per monitor and the card a desktop
 // notification. A native editor window has the focus throughout; what the outputs show is read back from
 // screenshots.
+#include "BreakOverlayRig.h"
 #include "BreakWindow.h"
 #include "DesktopNotificationPresenter.h"
 #include "InAppNotificationWindowPresenter.h"
-#include "InMemoryUserDefaults.h"
 #include "LayerShell.h"
 #include "MainScreen.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
-#include "scheduling/BreakManager.h"
-#include "settings/SettingsManager.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -190,13 +188,9 @@ private Q_SLOTS:
     // for when the break ends.
     void theBreakCoversEveryOutputAbovePanels()
     {
-        InMemoryUserDefaults store;
-        SettingsManager settings(store, nullptr);
-        BreakManager breaks(store);
-        breaks.setSettingsManager(&settings);
-        BreakWindow overlay(&settings, &breaks, nullptr, nullptr);
-        breaks.takeBreakNow();
-        overlay.show(BreakType::Short);
+        BreakOverlayRig rig;
+        rig.startBreak();
+        BreakWindow& overlay = rig.overlay;
         QCOMPARE(overlay.windows().size(), 2);
         for (QQuickWindow* window : overlay.windows()) {
             QCOMPARE(LayerShell::isPlaced(window), !onGnome());

@@ -1,13 +1,9 @@
 #include "BackgroundImage.h"
+#include "BreakOverlayRig.h"
 #include "BreakViewModel.h"
 #include "BreakWindow.h"
 #include "DesktopPicture.h"
-#include "FakeScreenLock.h"
-#include "FakeSoundPlayer.h"
-#include "InMemoryUserDefaults.h"
 #include "OffscreenScreens.h"
-#include "scheduling/BreakManager.h"
-#include "settings/SettingsManager.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -34,44 +30,7 @@ constexpr char screensConfig[] = R"({"screens": [
     {"name": "right", "x": 3200, "y": 0, "width": 1024, "height": 768}
 ]})";
 
-struct Rig {
-    explicit Rig(bool mainScreenOnly = false)
-    {
-        breaks.setSettingsManager(&settings);
-        if (mainScreenOnly)
-            appearance([](BreakAppearance& a) { a.screenDisplayMode = ScreenDisplayMode::MainScreenOnly; });
-    }
-
-    void configure(const std::function<void(BreakConfiguration&)>& change)
-    {
-        BreakConfiguration value = settings.breakConfiguration();
-        change(value);
-        settings.setBreakConfiguration(value);
-    }
-
-    void appearance(const std::function<void(BreakAppearance&)>& change)
-    {
-        BreakAppearance value = settings.breakAppearance();
-        change(value);
-        settings.setBreakAppearance(value);
-    }
-
-    // Starts a short break and returns its first window once it is on screen.
-    QQuickWindow* showBreak()
-    {
-        breaks.takeBreakNow();
-        overlay.show(BreakType::Short);
-        QQuickWindow* window = overlay.windows().value(0);
-        return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
-    }
-
-    InMemoryUserDefaults store;
-    SettingsManager settings{store, nullptr};
-    BreakManager breaks{store};
-    FakeSoundPlayer player;
-    FakeScreenLock lock;
-    BreakWindow overlay{&settings, &breaks, &player, &lock};
-};
+using Rig = BreakOverlayRig;
 
 QQuickItem* find(QQuickWindow* window, const char* name)
 {
@@ -114,8 +73,7 @@ private Q_SLOTS:
     void coversTheTargetScreensInOrder()
     {
         Rig rig;
-        rig.breaks.takeBreakNow();
-        rig.overlay.show(BreakType::Short);
+        rig.startBreak();
         const QList<QScreen*> screens = QGuiApplication::screens();
         QCOMPARE(rig.overlay.windows().size(), 3);
         for (int i = 0; i < 3; ++i) {
@@ -143,8 +101,7 @@ private Q_SLOTS:
     void hidingFadesEveryWindowAndAShowStartsAfresh()
     {
         Rig rig(true);
-        rig.breaks.takeBreakNow();
-        rig.overlay.show(BreakType::Short);
+        rig.startBreak();
         rig.overlay.show(BreakType::Short);
         QCOMPARE(rig.overlay.windows().size(), 2);
         QList<QPointer<QQuickWindow>> shown;
@@ -194,8 +151,7 @@ private Q_SLOTS:
             order = rig.player.names();
             order.append(u"lock"_s);
         };
-        rig.breaks.takeBreakNow();
-        rig.overlay.show(BreakType::Short);
+        rig.startBreak();
         QCOMPARE(order, (QStringList{u"Glass"_s, u"lock"_s}));
         QCOMPARE(rig.lock.lockRequests, 1);
 
@@ -415,8 +371,7 @@ private Q_SLOTS:
             a.customImagePath = picture;
             a.overlayOpacity = 1.0;
         });
-        rig.breaks.takeBreakNow();
-        rig.overlay.show(BreakType::Short);
+        rig.startBreak();
         auto* images =
             dynamic_cast<QQuickImageProvider*>(rig.overlay.engineIfCreated()->imageProvider(u"veltobackground"_s));
         QVERIFY(images);

@@ -1,11 +1,9 @@
 // The overlay on a real X server: a private Xvfb whose one wide screen is split into two RandR monitors,
 // as a desk with two displays looks to Qt. Skipped where Xvfb, openbox or xrandr is not installed.
+#include "BreakOverlayRig.h"
 #include "BreakWindow.h"
-#include "InMemoryUserDefaults.h"
 #include "MainScreen.h"
 #include "XvfbDesktop.h"
-#include "scheduling/BreakManager.h"
-#include "settings/SettingsManager.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -57,13 +55,9 @@ private Q_SLOTS:
 
     void oneWindowPerMonitorAboveTheWindowManager()
     {
-        InMemoryUserDefaults store;
-        SettingsManager settings(store, nullptr);
-        BreakManager breaks(store);
-        breaks.setSettingsManager(&settings);
-        BreakWindow overlay(&settings, &breaks, nullptr, nullptr);
-        breaks.takeBreakNow();
-        overlay.show(BreakType::Short);
+        BreakOverlayRig rig;
+        rig.startBreak();
+        BreakWindow& overlay = rig.overlay;
 
         QCOMPARE(overlay.windows().size(), 2);
         const QList<QRect> monitors = {QRect(0, 0, 1280, 800), QRect(1280, 0, 1280, 800)};
