@@ -11,6 +11,7 @@
 #include "notification/InAppNotificationManager.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
+#include "tray/ShellIndicator.h"
 #include "tray/StatusItem.h"
 
 #include <QCoreApplication>
@@ -86,6 +87,16 @@ void AppDelegate::applicationDidFinishLaunching()
                        "and the icon appears when a tray does\n",
                        stderr);
     });
+    // Where no tray exists, Velto's GNOME Shell extension draws an indicator from the same icon and menu.
+    m_shellIndicator = new ShellIndicator(this);
+    m_shellIndicator->registerOn(QDBusConnection::sessionBus());
+    m_shellIndicator->menuItems = [self = QPointer(this)] {
+        return self ? self->statusMenuItems() : QList<StatusMenuItem>();
+    };
+    m_shellIndicator->onAction = [self = QPointer(this)](MenuAction action) {
+        if (self)
+            self->perform(action);
+    };
     m_statusItem->onMenuNeedsUpdate = [self = QPointer(this)] {
         if (self)
             self->rebuildMenu();
@@ -280,8 +291,11 @@ void AppDelegate::updateStatusItem()
     const double total = !onBreak                                                ? config.workInterval
                          : m_breakManager->currentBreakType() == BreakType::Long ? config.longBreakDuration
                                                                                  : config.shortBreakDuration;
-    m_statusItem->update(makeTrayIconFace(presentation, state, remaining, total),
-                         makeTrayAccessibleTexts(presentation, remaining));
+    const TrayIconFace face = makeTrayIconFace(presentation, state, remaining, total);
+    const TrayAccessibleTexts texts = makeTrayAccessibleTexts(presentation, remaining);
+    m_statusItem->update(face, texts);
+    if (m_shellIndicator)
+        m_shellIndicator->update(face, texts);
 }
 
 void AppDelegate::rebuildMenu()

@@ -20,6 +20,7 @@ class InAppNotificationManager;
 class SettingsWindows;
 class SettingsManager;
 class StandardUpdaterController;
+class ShellIndicator;
 class StatusItem;
 class SystemTrayHostWatch;
 class UpdateAvailabilityModel;
@@ -88,6 +89,7 @@ private:
 
     AppServices m_services;
     QPointer<StatusItem> m_statusItem;
+    QPointer<ShellIndicator> m_shellIndicator;
     SettingsManager* m_settingsManager = nullptr;
     BreakManager* m_breakManager = nullptr;
     InAppNotificationManager* m_inAppNotificationManager = nullptr;

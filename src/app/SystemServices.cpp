@@ -1,4 +1,5 @@
 #include "AppServices.h"
+#include "BusNamePresence.h"
 #include "DesktopApplicationInfo.h"
 #include "DesktopColorScheme.h"
 #include "DesktopNotificationPresenter.h"
@@ -10,6 +11,7 @@
 #include "VeltoWindows.h"
 #include "XdgAutostartEntry.h"
 #include "settings/SettingsFileStore.h"
+#include "wayland/GnomeShellToplevels.h"
 #include "windows/LazyWindows.h"
 #include "windows/WindowsModuleLoader.h"
 
@@ -46,13 +48,19 @@ AppServices AppServices::system()
     }
     services.sounds = std::make_unique<LazySoundPlayer>(services.windows);
     // Where no window of ours can be shown without taking the focus (a Wayland desktop without layers), the
-    // card comes as a desktop notification; asked at the first card, when the compositor is known.
+    // card comes as a desktop notification; asked at the first card, when the compositor is known. On GNOME,
+    // while Velto's Shell extension runs, it keeps Velto's own card in place and unfocused.
     services.notificationPresenter = std::make_unique<LazyNotificationPresenter>(
-        services.windows, []() -> std::unique_ptr<NotificationWindowPresenting> {
+        services.windows,
+        []() -> std::unique_ptr<NotificationWindowPresenting> {
             if (!QGuiApplication::platformName().startsWith(u"wayland"_s) || LayerShell::isAvailable())
                 return nullptr;
             return DesktopNotificationPresenter::create(QDBusConnection::sessionBus());
-        });
+        },
+        [extension = QGuiApplication::platformName().startsWith(u"wayland"_s)
+                         ? std::make_shared<BusNamePresence>(QDBusConnection::sessionBus(),
+                                                             QString(GnomeShellToplevels::service))
+                         : nullptr] { return !extension || !extension->isPresent(); });
     services.screenLock = std::make_unique<SystemScreenLock>();
     services.sleepSignals = std::make_unique<SystemSleepSignals>();
     services.colorScheme = std::make_unique<DesktopColorScheme>(QDBusConnection::sessionBus());

@@ -1,10 +1,17 @@
-// Velto's eyes on GNOME Shell: which window is in front, its title, process, whether it is fullscreen and on
-// which monitor, and the list of windows, over the session bus. Wayland keeps this from ordinary programs, so
-// the facts go only to the process that owns Velto's bus name. A change is announced by a signal without
-// window data (a signal reaches every listener); Velto then asks. Nothing here polls.
+// What GNOME Shell does for Velto that an ordinary Wayland program cannot do for itself:
+// - tells Velto which window is in front, its title, process, whether it is fullscreen and on which monitor,
+//   and the list of windows. Wayland keeps this from ordinary programs, so the facts go only to the process
+//   that owns Velto's bus name; a change is announced by a signal without window data, and Velto then asks;
+// - keeps Velto's pre-break card above other windows, on every workspace, at the top left of the work area
+//   where the user works, without the focus; and the break screens above everything;
+// - where no tray exists, shows Velto's icon and menu in the top bar, as Velto presents them.
+// Nothing here polls.
 'use strict';
 
-const { Gio, GLib, Shell } = imports.gi;
+const { Gio, GLib, Meta, Shell, St } = imports.gi;
+const Main = imports.ui.main;
+const PanelMenu = imports.ui.panelMenu;
+const PopupMenu = imports.ui.popupMenu;
 
 const VELTO_NAME = 'com.velto.app';
 const SHELL_NAME = 'com.velto.app.Shell';
@@ -139,6 +146,235 @@ class WindowFacts {
     }
 }
 
+// Velto's own windows, told apart by the process that owns Velto's name and their titles.
+const CARD_TITLE = 'Velto';
+const BREAK_TITLE = 'Velto Break';
+// Where the card sits in the work area, as on desktops that let Velto place it.
+const CARD_MARGIN_X = 16;
+const CARD_MARGIN_Y = 20;
+
+class VeltoWindows {
+    enable() {
+        this._pid = 0;
+        this._windows = new Map();
+        this._watch = Gio.bus_watch_name_on_connection(Gio.DBus.session, VELTO_NAME,
+            Gio.BusNameWatcherFlags.NONE,
+            (_connection, _name, owner) => this._learnPid(owner),
+            () => (this._pid = 0));
+        this._created = global.display.connect('window-created', (_display, window) => this._consider(window));
+        this._focus = global.display.connect('notify::focus-window', () => this._keepFocus());
+    }
+
+    disable() {
+        global.display.disconnect(this._created);
+        global.display.disconnect(this._focus);
+        for (const [window, ids] of this._windows)
+            ids.forEach(id => window.disconnect(id));
+        this._windows.clear();
+        this._card = null;
+        this._previous = null;
+        Gio.bus_unwatch_name(this._watch);
+    }
+
+    _learnPid(owner) {
+        Gio.DBus.session.call('org.freedesktop.DBus', '/org/freedesktop/DBus', 'org.freedesktop.DBus',
+            'GetConnectionUnixProcessID', new GLib.Variant('(s)', [owner]), new GLib.VariantType('(u)'),
+            Gio.DBusCallFlags.NONE, -1, null, (connection, result) => {
+                try {
+                    [this._pid] = connection.call_finish(result).deepUnpack();
+                } catch (e) {
+                    this._pid = 0;
+                }
+            });
+    }
+
+    // A window's title may come after the window: look again when it does.
+    _consider(window) {
+        if (!this._pid || window.get_pid() !== this._pid || this._windows.has(window))
+            return;
+        const ids = [
+            window.connect('notify::title', () => this._place(window)),
+            window.connect('unmanaged', () => this._forget(window)),
+        ];
+        this._windows.set(window, ids);
+        // Whatever had the focus when the card arrived keeps it.
+        this._previous = global.display.get_focus_window();
+        this._place(window);
+    }
+
+    _forget(window) {
+        this._windows.get(window).forEach(id => window.disconnect(id));
+        this._windows.delete(window);
+        if (window === this._card) {
+            this._card = null;
+            this._previous = null;
+        }
+    }
+
+    _place(window) {
+        const title = window.get_title();
+        // Qt adds the application's name to a window's title.
+        if (title && title.startsWith(BREAK_TITLE)) {
+            window.make_above();
+            window.stick();
+        } else if (title === CARD_TITLE && window !== this._card) {
+            this._card = window;
+            if (this._previous === window)
+                this._previous = null;
+            window.make_above();
+            window.stick();
+            this._moveCard();
+            // The shell places a new window when it first shows it: the card's place comes after that.
+            const ids = this._windows.get(window);
+            ids.push(window.connect('shown', () => this._moveCard()));
+            this._keepFocus();
+        }
+    }
+
+    _moveCard() {
+        const monitor = this._previous ? this._previous.get_monitor() : global.display.get_primary_monitor();
+        const area = Main.layoutManager.getWorkAreaForMonitor(monitor);
+        this._card.move_frame(false, area.x + CARD_MARGIN_X, area.y + CARD_MARGIN_Y);
+    }
+
+    // The card never keeps the focus: it goes back at once to the window that had it.
+    _keepFocus() {
+        const focused = global.display.get_focus_window();
+        if (!this._card || focused !== this._card)
+            return;
+        const now = global.display.get_current_time_roundtrip();
+        if (this._previous && this._previous.get_compositor_private())
+            this._previous.focus(now);
+        else
+            global.workspace_manager.get_active_workspace().focus_default_window(this._card, now);
+    }
+}
+
+const TRAY_NAME = 'org.kde.StatusNotifierWatcher';
+const INDICATOR_PATH = '/com/velto/app/Indicator';
+const INDICATOR_INTERFACE = 'com.velto.app.Indicator1';
+const ICON_SIZE = 16;
+
+// Velto's icon and menu in the top bar while Velto runs and no tray exists; a tray shows Velto itself.
+class Indicator {
+    enable() {
+        this._velto = false;
+        this._tray = false;
+        this._veltoWatch = Gio.bus_watch_name_on_connection(Gio.DBus.session, VELTO_NAME,
+            Gio.BusNameWatcherFlags.NONE, () => this._set('_velto', true), () => this._set('_velto', false));
+        this._trayWatch = Gio.bus_watch_name_on_connection(Gio.DBus.session, TRAY_NAME,
+            Gio.BusNameWatcherFlags.NONE, () => this._set('_tray', true), () => this._set('_tray', false));
+    }
+
+    disable() {
+        Gio.bus_unwatch_name(this._veltoWatch);
+        Gio.bus_unwatch_name(this._trayWatch);
+        this._hide();
+    }
+
+    _set(what, value) {
+        this[what] = value;
+        if (this._velto && !this._tray)
+            this._show();
+        else
+            this._hide();
+    }
+
+    _show() {
+        if (this._button)
+            return;
+        this._button = new PanelMenu.Button(0.0, 'Velto', false);
+        this._icon = new St.Icon({ icon_size: ICON_SIZE, style_class: 'system-status-icon' });
+        this._button.add_child(this._icon);
+        this._menuItems = '';
+        this._cancellable = new Gio.Cancellable();
+        this._button.menu.connect('open-state-changed', (_menu, open) => {
+            if (open)
+                this._refreshMenu();
+        });
+        Main.panel.addToStatusArea('velto', this._button);
+        this._changed = Gio.DBus.session.signal_subscribe(VELTO_NAME, INDICATOR_INTERFACE, 'changed',
+            INDICATOR_PATH, null, Gio.DBusSignalFlags.NONE, () => this._refresh());
+        this._refresh();
+    }
+
+    _hide() {
+        if (!this._button)
+            return;
+        Gio.DBus.session.signal_unsubscribe(this._changed);
+        this._cancellable.cancel();
+        this._cancellable = null;
+        this._button.destroy();
+        this._button = null;
+        this._icon = null;
+    }
+
+    _call(method, parameters, replyType, done) {
+        Gio.DBus.session.call(VELTO_NAME, INDICATOR_PATH, INDICATOR_INTERFACE, method, parameters,
+            replyType ? new GLib.VariantType(replyType) : null, Gio.DBusCallFlags.NONE, -1, this._cancellable,
+            (connection, result) => {
+                let reply;
+                try {
+                    reply = connection.call_finish(result);
+                } catch (e) {
+                    return; // Velto went away or this indicator did; what shows stays until then
+                }
+                if (done && this._button)
+                    done(reply.deepUnpack());
+            });
+    }
+
+    _refresh() {
+        const scale = St.ThemeContext.get_for_stage(global.stage).scale_factor;
+        this._call('icon', new GLib.Variant('(i)', [ICON_SIZE * scale]), '(ay)', ([png]) => {
+            this._icon.gicon = Gio.BytesIcon.new(new GLib.Bytes(png));
+        });
+        this._call('texts', null, '(ss)', ([label, value]) => {
+            this._button.accessible_name = value ? `${label} ${value}` : label;
+        });
+        // An open menu is never changed under the pointer.
+        if (!this._button.menu.isOpen)
+            this._refreshMenu();
+    }
+
+    _refreshMenu() {
+        this._call('menu', null, '(aa{sv})', ([items]) => {
+            const described = JSON.stringify(items.map(item => Object.entries(item).map(([k, v]) => [k, v.unpack()])));
+            if (described === this._menuItems)
+                return;
+            this._menuItems = described;
+            this._button.menu.removeAll();
+            for (const item of items) {
+                const get = key => (item[key] ? item[key].unpack() : undefined);
+                if (get('separator')) {
+                    this._button.menu.addMenuItem(new PopupMenu.PopupSeparatorMenuItem());
+                    continue;
+                }
+                const entry = new PopupMenu.PopupMenuItem(get('title') || '');
+                const action = get('action');
+                entry.setSensitive(Boolean(get('enabled')) && Boolean(action));
+                if (action)
+                    entry.connect('activate', () => this._call('activate', new GLib.Variant('(s)', [action])));
+                this._button.menu.addMenuItem(entry);
+            }
+        });
+    }
+}
+
+class Extension {
+    constructor() {
+        this._parts = [new WindowFacts(), new VeltoWindows(), new Indicator()];
+    }
+
+    enable() {
+        this._parts.forEach(part => part.enable());
+    }
+
+    disable() {
+        this._parts.slice().reverse().forEach(part => part.disable());
+    }
+}
+
 function init() {
-    return new WindowFacts();
+    return new Extension();
 }
