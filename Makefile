@@ -39,6 +39,7 @@ screenshots: build
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots_notification docs/screenshots
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots_settings docs/screenshots
 	tools/screenshots/sway.sh $(BUILD_DIR) docs/screenshots
+	tools/screenshots/gnome.sh $(BUILD_DIR) docs/screenshots
 
 deps:
 	@bash cmake/install-deps.sh cmake/debian-packages.txt
