@@ -12,7 +12,7 @@ if [ -z "${VELTO_SCREENSHOTS_INNER:-}" ]; then
     export VELTO_SCREENSHOTS_INNER=1
     exec dbus-run-session --config-file="$here/../../tests/support/test-bus.conf" -- \
         "$build/tests/platform/linux/run_in_compositor" gnome \
-        --extension "$here/../../src/platform/gnome-shell/velto@velto.app" -- "$0" "$build" "$out"
+        --extension "$build/src/platform/gnome-shell/legacy/velto@velto.app" -- "$0" "$build" "$out"
 fi
 
 home=$(mktemp -d)

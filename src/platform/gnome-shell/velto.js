@@ -6,12 +6,10 @@
 //   where the user works, without the focus; and the break screens above everything;
 // - where no tray exists, shows Velto's icon and menu in the top bar, as Velto presents them.
 // Nothing here polls.
-'use strict';
-
-const { Gio, GLib, Meta, Shell, St } = imports.gi;
-const Main = imports.ui.main;
-const PanelMenu = imports.ui.panelMenu;
-const PopupMenu = imports.ui.popupMenu;
+//
+// One body for both module formats the shell has used: the build puts it between the imports and the entry
+// point of either (legacy.js for GNOME 43 and 44, modules.js from 45 on), which supply Gio, GLib, Shell, St,
+// Main, PanelMenu and PopupMenu.
 
 const VELTO_NAME = 'com.velto.app';
 const SHELL_NAME = 'com.velto.app.Shell';
@@ -361,20 +359,15 @@ class Indicator {
     }
 }
 
-class Extension {
-    constructor() {
-        this._parts = [new WindowFacts(), new VeltoWindows(), new Indicator()];
-    }
-
+// Everything is made in enable() and let go in disable(), as the shell asks of extensions.
+class VeltoShell {
     enable() {
+        this._parts = [new WindowFacts(), new VeltoWindows(), new Indicator()];
         this._parts.forEach(part => part.enable());
     }
 
     disable() {
-        this._parts.slice().reverse().forEach(part => part.disable());
+        this._parts.reverse().forEach(part => part.disable());
+        this._parts = null;
     }
-}
-
-function init() {
-    return new Extension();
 }
