@@ -32,4 +32,10 @@ void LaunchAtLoginService::setEnabled(bool enabled)
         m_printLine(u"Failed to update launch at login: "_s + *error);
 }
 
+bool LaunchAtLoginService::isTurnedOffElsewhere() const
+{
+    return !isContinuousIntegration(m_environment) && !isRunningTestSuite(m_environment) && m_registrar &&
+           m_registrar->isDisabledByUser();
+}
+
 } // namespace velto

@@ -23,6 +23,7 @@ public:
     ~LaunchAtLoginService() override;
 
     void setEnabled(bool enabled) override;
+    [[nodiscard]] bool isTurnedOffElsewhere() const override;
 
 private:
     std::unique_ptr<LoginItemRegistering> m_registrar;

@@ -61,7 +61,7 @@ dbus-run-session --config-file="$bus_config" -- bash -c '
 ' _ "$prefix/bin/velto" "$scratch/velto.err" || fail "the installed velto did not start, open its settings and quit"
 ! grep -q "cannot load" "$scratch/velto.err" || fail "the installed velto: $(cat "$scratch/velto.err")"
 
-entry="$XDG_CONFIG_HOME/autostart/velto.desktop"
+entry="$XDG_CONFIG_HOME/autostart/com.velto.app.desktop"
 [ -f "$entry" ] || fail "no autostart entry at $entry"
 exec_line=$(sed -n 's/^Exec=//p' "$entry")
 [ "$exec_line" = "\"$(realpath "$prefix/bin/velto")\"" ] || fail "the autostart entry runs $exec_line"

@@ -8,6 +8,8 @@
 class FakeLaunchAtLogin final : public velto::LaunchAtLoginControlling {
 public:
     void setEnabled(bool enabled) override { calls.append(enabled); }
+    [[nodiscard]] bool isTurnedOffElsewhere() const override { return turnedOffElsewhere; }
 
     QList<bool> calls;
+    bool turnedOffElsewhere = false;
 };

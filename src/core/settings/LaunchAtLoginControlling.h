@@ -8,6 +8,8 @@ class LaunchAtLoginControlling {
 public:
     virtual ~LaunchAtLoginControlling() = default;
     virtual void setEnabled(bool enabled) = 0;
+    // True when the user turned the start at login off outside Velto (the desktop's startup settings).
+    [[nodiscard]] virtual bool isTurnedOffElsewhere() const { return false; }
 };
 
 } // namespace velto

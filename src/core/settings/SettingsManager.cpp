@@ -15,9 +15,16 @@ SettingsManager::SettingsManager(UserDefaultsStore& userDefaults, LaunchAtLoginC
 {
     loadSettings();
     m_isLoading = false;
-    // Re-applied at every start so the session's login item follows the stored choice.
-    if (m_launchAtLoginService != nullptr)
-        m_launchAtLoginService->setEnabled(m_launchAtLogin);
+    // Re-applied at every start so the session's login item follows the stored choice, unless the user turned
+    // it off in the desktop's own startup settings: then the switch shows that, and the entry stays as they left it.
+    if (m_launchAtLoginService != nullptr) {
+        if (m_launchAtLogin && m_launchAtLoginService->isTurnedOffElsewhere()) {
+            publish(this, m_launchAtLogin, false, &SettingsManager::launchAtLoginChanged);
+            saveSettings();
+        } else {
+            m_launchAtLoginService->setEnabled(m_launchAtLogin);
+        }
+    }
 }
 
 void SettingsManager::saveUnlessLoading()

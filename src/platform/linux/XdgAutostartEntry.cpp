@@ -25,6 +25,15 @@ QString quotedExecArgument(const QString& argument)
     return u'"' + quoted + u'"';
 }
 
+// A desktop-entry string value: backslash and line breaks escaped.
+QString escapedString(const QString& value)
+{
+    QString escaped = value;
+    escaped.replace(u"\\"_s, u"\\\\"_s);
+    escaped.replace(u"\n"_s, u"\\n"_s);
+    return escaped;
+}
+
 } // namespace
 
 XdgAutostartEntry::XdgAutostartEntry(QString executablePath, QString autostartDirectory)
@@ -39,7 +48,31 @@ QString XdgAutostartEntry::defaultDirectory()
 
 QString XdgAutostartEntry::entryPath() const
 {
+    return m_autostartDirectory + u"/com.velto.app.desktop"_s;
+}
+
+QString XdgAutostartEntry::legacyEntryPath() const
+{
     return m_autostartDirectory + u"/velto.desktop"_s;
+}
+
+bool XdgAutostartEntry::isDisabledByUser() const
+{
+    for (const QString& path : {entryPath(), legacyEntryPath()}) {
+        QFile entry(path);
+        if (!entry.open(QIODevice::ReadOnly))
+            continue;
+        bool inMainGroup = false;
+        while (!entry.atEnd()) {
+            const QByteArray line = entry.readLine().trimmed();
+            if (line.startsWith('['))
+                inMainGroup = line == "[Desktop Entry]";
+            else if (inMainGroup && (line == "Hidden=true" || line == "X-GNOME-Autostart-enabled=false"))
+                return true;
+        }
+        return false;
+    }
+    return false;
 }
 
 QByteArray XdgAutostartEntry::entryContents() const
@@ -48,6 +81,9 @@ QByteArray XdgAutostartEntry::entryContents() const
                          u"Type=Application\n"
                          u"Name=Velto\n"
                          u"Comment=Reminds you to take breaks\n"
+                         u"TryExec="_s +
+                         escapedString(m_executablePath) +
+                         u"\n"
                          u"Exec="_s +
                          quotedExecArgument(m_executablePath) +
                          u"\n"
@@ -61,6 +97,9 @@ QByteArray XdgAutostartEntry::entryContents() const
 std::optional<QString> XdgAutostartEntry::setRegistered(bool registered)
 {
     const QString path = entryPath();
+    // The entry earlier versions wrote goes either way: one entry, under the application's id.
+    if (QFile legacy(legacyEntryPath()); legacy.exists() && !legacy.remove())
+        return u"Could not remove %1: %2"_s.arg(legacy.fileName(), legacy.errorString());
     if (!registered) {
         // No entry is what was asked for: launch at login off is the state of every fresh account.
         QFile entry(path);

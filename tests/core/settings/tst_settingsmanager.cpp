@@ -77,6 +77,17 @@ void TestSettingsManager::firstStartWritesNothingUntilTheFirstChange()
     SettingsManager withoutLoginItem(store, nullptr);
     withoutLoginItem.setLaunchAtLogin(false);
     QCOMPARE(store.values.value(u"launchAtLogin"_s), QVariant(false));
+
+    // Turned off in the desktop's startup settings: the switch follows, and the entry is left alone.
+    InMemoryUserDefaults fresh;
+    FakeLaunchAtLogin disabled;
+    disabled.turnedOffElsewhere = true;
+    SettingsManager respecting(fresh, &disabled);
+    QVERIFY(!respecting.launchAtLogin());
+    QCOMPARE(fresh.values.value(u"launchAtLogin"_s), QVariant(false));
+    QVERIFY(disabled.calls.isEmpty());
+    respecting.setLaunchAtLogin(true); // turned on again in Velto: written anew
+    QCOMPARE(disabled.calls, QList{true});
 }
 
 void TestSettingsManager::everyAssignmentNotifiesAfterStoring()

@@ -1,6 +1,7 @@
 #include "LaunchAtLoginService.h"
 #include "XdgAutostartEntry.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void enablingWritesAnEntryThatStartsTheExecutable();
     void execLineSurvivesAwkwardPaths();
     void failuresAreDescribed();
+    void aUserWhoDisabledTheEntryIsRespected_data();
+    void aUserWhoDisabledTheEntryIsRespected();
     void defaultFolderFollowsXdgConfigHome();
     void theServicePrintsTheFailureOnStandardOutput();
 
@@ -33,16 +36,22 @@ void TestXdgAutostartEntry::enablingWritesAnEntryThatStartsTheExecutable()
 {
     const QString folder = m_dir->filePath(u"config/autostart"_s);
     XdgAutostartEntry entry(u"/usr/bin/velto"_s, folder);
-    QCOMPARE(entry.entryPath(), folder + u"/velto.desktop"_s);
+    QCOMPARE(entry.entryPath(), folder + u"/com.velto.app.desktop"_s);
+    // An entry under the old name is replaced by the one under the application's id.
+    QVERIFY(QDir().mkpath(folder));
+    QFile legacy(entry.legacyEntryPath());
+    QVERIFY(legacy.open(QIODevice::WriteOnly));
+    legacy.close();
 
     QCOMPARE(entry.setRegistered(true), std::nullopt); // creates the folder too
+    QVERIFY(!legacy.exists());
     QCOMPARE(entry.setRegistered(true), std::nullopt); // and overwrites quietly
     QFile file(entry.entryPath());
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().split('\n');
     QCOMPARE(lines.first(), "[Desktop Entry]");
-    for (const char* line : {"Type=Application", "Name=Velto", "Exec=\"/usr/bin/velto\"", "Icon=com.velto.app",
-                             "X-GNOME-Autostart-enabled=true"})
+    for (const char* line : {"Type=Application", "Name=Velto", "TryExec=/usr/bin/velto", "Exec=\"/usr/bin/velto\"",
+                             "Icon=com.velto.app", "X-GNOME-Autostart-enabled=true"})
         QVERIFY2(lines.contains(line), line);
 
     QCOMPARE(entry.setRegistered(false), std::nullopt);
@@ -70,6 +79,37 @@ void TestXdgAutostartEntry::failuresAreDescribed()
     const std::optional<QString> error = blocked.setRegistered(true);
     QVERIFY(error);
     QVERIFY2(error->contains(blocker.fileName()), qPrintable(*error));
+}
+
+void TestXdgAutostartEntry::aUserWhoDisabledTheEntryIsRespected_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<bool>("disabled");
+    const QByteArray head = "[Desktop Entry]\nType=Application\nExec=/usr/bin/velto\n";
+    QTest::newRow("ours") << u"com.velto.app.desktop"_s << head + "X-GNOME-Autostart-enabled=true\n" << false;
+    QTest::newRow("hidden") << u"com.velto.app.desktop"_s << head + "Hidden=true\n" << true;
+    QTest::newRow("GNOME's switch") << u"com.velto.app.desktop"_s << head + "X-GNOME-Autostart-enabled=false\n" << true;
+    QTest::newRow("under the old name") << u"velto.desktop"_s << head + "Hidden=true\n" << true;
+    QTest::newRow("another group") << u"com.velto.app.desktop"_s << head + "[Desktop Action X]\nHidden=true\n" << false;
+    QTest::newRow("none") << QString() << QByteArray() << false;
+}
+
+void TestXdgAutostartEntry::aUserWhoDisabledTheEntryIsRespected()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, contents);
+    QFETCH(bool, disabled);
+    XdgAutostartEntry entry(u"/usr/bin/velto"_s, m_dir->path());
+    if (!file.isEmpty()) {
+        QFile written(m_dir->filePath(file));
+        QVERIFY(written.open(QIODevice::WriteOnly));
+        written.write(contents);
+    }
+    QCOMPARE(entry.isDisabledByUser(), disabled);
+    // Turned on again from Velto: an entry that starts it.
+    QCOMPARE(entry.setRegistered(true), std::nullopt);
+    QVERIFY(!entry.isDisabledByUser());
 }
 
 void TestXdgAutostartEntry::defaultFolderFollowsXdgConfigHome()
