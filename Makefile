@@ -5,7 +5,7 @@ JOBS ?= 2
 BUILD_TYPE ?= RelWithDebInfo
 CMAKE_ARGS ?=
 
-.PHONY: run test test-sanitize bench deps deps-test build build-app build-sanitize format clean screenshots
+.PHONY: run test test-sanitize bench deps deps-test build build-app build-sanitize format clean screenshots deb
 
 # Configures DIR for BUILD_TYPE with the tests and benchmarks ON or OFF, unless it already is.
 configure = grep -qx 'VELTO_BUILD_TESTS:BOOL=$(3)' $(1)/CMakeCache.txt 2>/dev/null || \
@@ -41,6 +41,16 @@ screenshots: build
 	tools/screenshots/sway.sh $(BUILD_DIR) docs/screenshots
 	tools/screenshots/gnome.sh $(BUILD_DIR) docs/screenshots
 
+# A Debian package for /usr, velto_<version>_amd64.deb here; it leaves updates to the package manager.
+DEB_DIR ?= build-deb
+deb:
+	@VELTO_EXTRA_PACKAGES="dpkg-dev file" bash cmake/install-deps.sh cmake/debian-packages.txt
+	@test -f $(DEB_DIR)/CMakeCache.txt || cmake -S . -B $(DEB_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release \
+		-DCMAKE_INSTALL_PREFIX=/usr -DVELTO_BUILD_TESTS=OFF -DVELTO_BUILD_BENCH=OFF -DVELTO_UPDATE_CHECKS=OFF $(CMAKE_ARGS)
+	cmake --build $(DEB_DIR) -j$(JOBS)
+	cd $(DEB_DIR) && cpack -G DEB -B $(CURDIR)/$(DEB_DIR)/packages
+	cp $(DEB_DIR)/packages/velto_*_amd64.deb .
+
 deps:
 	@bash cmake/install-deps.sh cmake/debian-packages.txt
 
@@ -64,4 +74,4 @@ format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	rm -rf $(BUILD_DIR) $(ASAN_DIR)
+	rm -rf $(BUILD_DIR) $(ASAN_DIR) $(DEB_DIR) velto_*_amd64.deb

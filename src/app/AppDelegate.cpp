@@ -483,7 +483,7 @@ void AppDelegate::checkForUpdates(std::function<void(bool, const QString&)> done
 {
     Updater* updater = m_updaterController ? m_updaterController->updater() : nullptr;
     if (!updater) {
-        done(false, u"this Velto was built without update checks"_s);
+        done(false, u"this Velto does not check for updates; the system's package manager updates it"_s);
         return;
     }
     // The same check as the About pane's button, told on the command line instead of in a window. A check

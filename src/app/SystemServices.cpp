@@ -64,7 +64,8 @@ AppServices AppServices::system()
     services.screenLock = std::make_unique<SystemScreenLock>();
     services.sleepSignals = std::make_unique<SystemSleepSignals>();
     services.colorScheme = std::make_unique<DesktopColorScheme>(QDBusConnection::sessionBus());
-    services.runsUpdater = true;
+    // Off in distribution packages: the package manager brings new versions.
+    services.runsUpdater = VELTO_UPDATE_CHECKS;
     return services;
 }
 
