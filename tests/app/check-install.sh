@@ -27,6 +27,12 @@ done
 desktop-file-validate "$prefix/share/applications/com.velto.app.desktop" || fail "the desktop entry is not valid"
 appstreamcli validate --no-net --pedantic "$prefix/share/metainfo/com.velto.app.metainfo.xml" >/dev/null \
     || fail "the AppStream file is not valid"
+# Its screenshots are the README's, as the website serves them.
+shots=$(sed -n 's|.*<image type="source">.*/screenshots/\(.*\)</image>.*|\1|p' "$prefix/share/metainfo/com.velto.app.metainfo.xml")
+[ -n "$shots" ] || fail "the AppStream file shows no screenshots"
+for shot in $shots; do
+    [ -f "$(dirname "$0")/../../docs/screenshots/$shot" ] || fail "the AppStream file shows $shot, not in docs/screenshots"
+done
 icon=$(sed -n 's/^Icon=//p' "$prefix/share/applications/com.velto.app.desktop")
 [ -f "$prefix/share/icons/hicolor/scalable/apps/$icon.svg" ] || fail "the desktop entry names icon '$icon', not installed"
 grep -q "<launchable type=\"desktop-id\">com.velto.app.desktop</launchable>" \
