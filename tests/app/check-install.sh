@@ -69,6 +69,9 @@ dbus-run-session --config-file="$bus_config" -- bash -c '
 
 entry="$XDG_CONFIG_HOME/autostart/com.velto.app.desktop"
 [ -f "$entry" ] || fail "no autostart entry at $entry"
+desktop-file-validate "$entry" || fail "the autostart entry is not valid"
+try_exec=$(sed -n 's/^TryExec=//p' "$entry")
+[ "$try_exec" = "$(realpath "$prefix/bin/velto")" ] || fail "the autostart entry tries $try_exec"
 exec_line=$(sed -n 's/^Exec=//p' "$entry")
 [ "$exec_line" = "\"$(realpath "$prefix/bin/velto")\"" ] || fail "the autostart entry runs $exec_line"
 autostart_icon=$(sed -n 's/^Icon=//p' "$entry")
