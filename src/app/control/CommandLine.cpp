@@ -2,6 +2,8 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
@@ -11,14 +13,12 @@ using Command = CommandLine::Command;
 
 const QHash<QString, Command>& commandWords()
 {
-    static const QHash<QString, Command> words{
-        {u"status"_s, Command::Status},   {u"break"_s, Command::TakeBreak},
-        {u"pause"_s, Command::Pause},     {u"resume"_s, Command::Resume},
-        {u"skip"_s, Command::Skip},       {u"enable"_s, Command::Enable},
-        {u"disable"_s, Command::Disable}, {u"settings"_s, Command::Settings},
-        {u"quit"_s, Command::Quit},       {u"check-updates"_s, Command::CheckUpdates},
-        {u"help"_s, Command::Help},
-    };
+    static const QHash<QString, Command> words = [] {
+        QHash<QString, Command> all{{u"help"_s, Command::Help}};
+        for (const CommandLine::Spec& spec : CommandLine::commands())
+            all.insert(spec.name, spec.command);
+        return all;
+    }();
     return words;
 }
 
@@ -140,30 +140,62 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     return result;
 }
 
+const QList<CommandLine::Spec>& CommandLine::commands()
+{
+    static const QList<Spec> table{
+        {u"status"_s,
+         Command::Status,
+         u"[--json]"_s,
+         u"Show the countdown, the state and today's breaks"_s,
+         {u"--json"_s},
+         {}},
+        {u"break"_s,
+         Command::TakeBreak,
+         u"[--long]"_s,
+         u"Take a break now (a long break with --long)"_s,
+         {u"--long"_s},
+         {}},
+        {u"pause"_s,
+         Command::Pause,
+         u"[MINUTES]"_s,
+         u"Pause reminders for MINUTES minutes (%1 if not given)"_s.arg(defaultPauseMinutes),
+         {},
+         {}},
+        {u"resume"_s, Command::Resume, {}, u"End a pause"_s, {}, {}},
+        {u"skip"_s, Command::Skip, {}, u"Skip the coming break"_s, {}, {}},
+        {u"enable"_s, Command::Enable, {}, u"Turn reminders on"_s, {}, {}},
+        {u"disable"_s, Command::Disable, {}, u"Turn reminders off"_s, {}, {}},
+        {u"settings"_s, Command::Settings, {}, u"Open the settings window"_s, {}, {}},
+        {u"check-updates"_s, Command::CheckUpdates, {}, u"Check for a newer version and say what was found"_s, {}, {}},
+        {u"quit"_s, Command::Quit, {}, u"Quit Velto"_s, {}, {}},
+    };
+    return table;
+}
+
 QString CommandLine::usage()
 {
-    return u"Usage: velto [COMMAND]\n"
-           u"\n"
-           u"Without a command, starts Velto; if Velto is already running, opens its settings instead.\n"
-           u"\n"
-           u"Commands for the running Velto:\n"
-           u"  status [--json]   Show the countdown, the state and today's breaks\n"
-           u"  break [--long]    Take a break now (a long break with --long)\n"
-           u"  pause [MINUTES]   Pause reminders for MINUTES minutes (15 if not given)\n"
-           u"  resume            End a pause\n"
-           u"  skip              Skip the coming break\n"
-           u"  enable            Turn reminders on\n"
-           u"  disable           Turn reminders off\n"
-           u"  settings          Open the settings window\n"
-           u"  check-updates     Check for a newer version and say what was found\n"
-           u"  quit              Quit Velto\n"
-           u"\n"
-           u"Options:\n"
-           u"  -h, --help        Show this help\n"
-           u"  -v, --version     Show the version\n"
-           u"\n"
-           u"Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
-           u"failed), 2 for bad arguments.\n"_s;
+    const auto synopsis = [](const Spec& spec) -> QString {
+        return spec.arguments.isEmpty() ? spec.name : spec.name + u' ' + spec.arguments;
+    };
+    qsizetype width = QStringLiteral("-v, --version").size();
+    for (const Spec& spec : commands())
+        width = std::max(width, synopsis(spec).size());
+    const auto line = [width](const QString& left, const QString& right) -> QString {
+        return u"  "_s + left.leftJustified(width + 3) + right + u'\n';
+    };
+    QString text = u"Usage: velto [COMMAND]\n"
+                   u"\n"
+                   u"Without a command, starts Velto; if Velto is already running, opens its settings instead.\n"
+                   u"\n"
+                   u"Commands for the running Velto:\n"_s;
+    for (const Spec& spec : commands())
+        text += line(synopsis(spec), spec.summary);
+    text += u"\nOptions:\n"_s + line(u"-h, --help"_s, u"Show this help"_s) +
+            line(u"-v, --version"_s, u"Show the version"_s) +
+            u"\n"
+            u"Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
+            u"failed), 2 for bad arguments.\n"_s;
+    return text;
 }
 
 } // namespace velto

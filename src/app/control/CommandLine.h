@@ -50,6 +50,18 @@ struct CommandLine {
     [[nodiscard]] static CommandLine parse(const QStringList& arguments);
     [[nodiscard]] static QString usage();
 
+    // One command as the parser takes it, --help explains it, and the manual page and the shell completions
+    // (generated from this table at build time) show it.
+    struct Spec {
+        QString name;
+        Command command;
+        QString arguments; // after the name in the synopsis, e.g. "[--json]"
+        QString summary;   // one line
+        QStringList options;
+        QStringList words; // the fixed words its argument may be
+    };
+    [[nodiscard]] static const QList<Spec>& commands();
+
     friend bool operator==(const CommandLine&, const CommandLine&) = default;
 };
 
