@@ -4,6 +4,7 @@
 #include "ControlClient.h"
 #include "ControlService.h"
 #include "ControlTarget.h"
+#include "Translations.h"
 #include "VeltoVersion.h"
 #include "wayland/WaylandLink.h"
 
@@ -41,10 +42,8 @@ void setApplicationIdentity()
 }
 
 // A command for the running instance: no GUI, no display needed.
-int runClient(int argc, char* argv[], const velto::CommandLine& commandLine)
+int runClient(const velto::CommandLine& commandLine)
 {
-    setApplicationIdentity();
-    const QCoreApplication application(argc, argv);
     QTextStream out(stdout);
     QTextStream err(stderr);
     return velto::ControlClient(QDBusConnection::sessionBus()).run(commandLine, out, err);
@@ -69,6 +68,7 @@ int runApplication(int argc, char* argv[])
     QApplication::setApplicationDisplayName(u"Velto"_s);
     QApplication::setDesktopFileName(u"com.velto.app"_s);
     QApplication application(argc, argv);
+    velto::installTranslations(application);
     // The card, the settings window and the About pane show this as Velto's own icon.
     QApplication::setWindowIcon(QIcon(u":/velto/icons/VeltoLogo.svg"_s));
     // Closing a settings window or a break overlay must never end the process.
@@ -109,12 +109,18 @@ int main(int argc, char* argv[])
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
-    const velto::CommandLine commandLine = velto::CommandLine::parse(arguments);
-
     using Command = velto::CommandLine::Command;
+    if (velto::CommandLine::parse(arguments).command == Command::Run)
+        return runApplication(argc, argv);
+
+    // The rest needs no display; parsed again once the user's language is in, so mistakes are told in it.
+    setApplicationIdentity();
+    QCoreApplication application(argc, argv);
+    velto::installTranslations(application);
+    const velto::CommandLine commandLine = velto::CommandLine::parse(arguments);
     switch (commandLine.command) {
     case Command::Run:
-        return runApplication(argc, argv);
+        return velto::ExitCode::failure; // decided above
     case Command::Help:
         std::fputs(qPrintable(velto::CommandLine::usage()), stdout);
         return velto::ExitCode::success;
@@ -125,6 +131,6 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "velto: %s\n\n%s", qPrintable(commandLine.error), qPrintable(velto::CommandLine::usage()));
         return velto::ExitCode::usage;
     default:
-        return runClient(argc, argv, commandLine);
+        return runClient(commandLine);
     }
 }
