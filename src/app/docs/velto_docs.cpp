@@ -1,13 +1,20 @@
 // Writes what documents the velto command from the parser's own command table, so none of it can drift: the
-// manual page (from its template) and the bash, zsh and fish completions. Run by the build.
+// manual page (from its template) and the bash, zsh and fish completions; and puts the desktop entry's and the
+// AppStream file's texts in every language Velto speaks. Run by the build.
 // Usage: velto_docs man TEMPLATE OUTPUT | bash OUTPUT | zsh OUTPUT | fish OUTPUT
+//        velto_docs localize desktop|appstream TEMPLATE OUTPUT QM_FOLDER LANGUAGE...
 #include "CommandLine.h"
+#include "PackageTexts.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QRegularExpression>
 #include <QStringList>
+#include <QTranslator>
 
 #include <cstdio>
+#include <memory>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 using velto::CommandLine;
@@ -122,6 +129,57 @@ QString fish()
     return out;
 }
 
+struct Language {
+    QString code;
+    std::unique_ptr<QTranslator> translator;
+};
+
+// The translation of a package text in one language; empty when there is none or it says the same.
+QString translated(const Language& language, const QString& source)
+{
+    for (const velto::PackageText& text : velto::packageTexts) {
+        if (QString::fromUtf8(text.text.source) != source)
+            continue;
+        const QString result = language.translator->translate(text.context, text.text.source, text.text.comment);
+        return result == source ? QString() : result;
+    }
+    return {};
+}
+
+// After each line that holds a package text, the same line in each language: `Key[de]=…` in a desktop entry,
+// `<tag xml:lang="de">…</tag>` in an AppStream file.
+QString localized(const QString& kind, const QString& text, const std::vector<Language>& languages)
+{
+    static const QRegularExpression desktopLine(u"^([A-Za-z-]+)=(.+)$"_s);
+    static const QRegularExpression xmlLine(u"^(\\s*)<(\\w+)>([^<]+)</\\2>$"_s);
+    QStringList out;
+    for (const QString& line : text.split(u'\n')) {
+        out << line;
+        if (kind == u"desktop"_s) {
+            const QRegularExpressionMatch match = desktopLine.match(line);
+            if (!match.hasMatch())
+                continue;
+            for (const Language& language : languages) {
+                if (const QString result = translated(language, match.captured(2)); !result.isEmpty())
+                    out << match.captured(1) + u'[' + language.code + u"]="_s + result;
+            }
+        } else {
+            const QRegularExpressionMatch match = xmlLine.match(line);
+            if (!match.hasMatch())
+                continue;
+            QString source = match.captured(3);
+            source.replace(u"&apos;"_s, u"'"_s).replace(u"&quot;"_s, u"\""_s).replace(u"&lt;"_s, u"<"_s);
+            source.replace(u"&gt;"_s, u">"_s).replace(u"&amp;"_s, u"&"_s);
+            for (const Language& language : languages) {
+                if (const QString result = translated(language, source); !result.isEmpty())
+                    out << match.captured(1) + u'<' + match.captured(2) + u" xml:lang=\""_s + language.code + u"\">"_s +
+                               result.toHtmlEscaped() + u"</"_s + match.captured(2) + u'>';
+            }
+        }
+    }
+    return out.join(u'\n');
+}
+
 bool write(const QString& path, const QString& text)
 {
     QFile file(path);
@@ -150,8 +208,28 @@ int main(int argc, char* argv[])
                    ? 0
                    : 1;
     }
+    if (kind == u"localize"_s && arguments.size() >= 5) {
+        QFile input(arguments.at(2));
+        if (!input.open(QIODevice::ReadOnly)) {
+            std::fprintf(stderr, "velto_docs: cannot read %s\n", qPrintable(arguments.at(2)));
+            return 1;
+        }
+        std::vector<Language> languages;
+        for (const QString& code : arguments.mid(5)) {
+            Language language{code, std::make_unique<QTranslator>()};
+            if (!language.translator->load(arguments.at(4) + u"/velto_"_s + code + u".qm"_s)) {
+                std::fprintf(stderr, "velto_docs: no translations for %s\n", qPrintable(code));
+                return 1;
+            }
+            languages.push_back(std::move(language));
+        }
+        const QString text = localized(arguments.at(1), QString::fromUtf8(input.readAll()), languages);
+        return write(arguments.at(3), text) ? 0 : 1;
+    }
     if (arguments.size() == 2 && (kind == u"bash"_s || kind == u"zsh"_s || kind == u"fish"_s))
         return write(arguments.at(1), kind == u"bash"_s ? bash() : kind == u"zsh"_s ? zsh() : fish()) ? 0 : 1;
-    std::fputs("usage: velto_docs man TEMPLATE OUTPUT | bash OUTPUT | zsh OUTPUT | fish OUTPUT\n", stderr);
+    std::fputs("usage: velto_docs man TEMPLATE OUTPUT | bash OUTPUT | zsh OUTPUT | fish OUTPUT\n"
+               "       velto_docs localize desktop|appstream TEMPLATE OUTPUT QM_FOLDER LANGUAGE...\n",
+               stderr);
     return 2;
 }
