@@ -4,6 +4,8 @@
 #include "ControlClient.h"
 #include "ControlService.h"
 #include "ControlTarget.h"
+#include "GnomeExtensionCommand.h"
+#include "SystemGnomeExtension.h"
 #include "Translations.h"
 #include "VeltoVersion.h"
 #include "wayland/WaylandLink.h"
@@ -47,6 +49,16 @@ int runClient(const velto::CommandLine& commandLine)
     QTextStream out(stdout);
     QTextStream err(stderr);
     return velto::ControlClient(QDBusConnection::sessionBus()).run(commandLine, out, err);
+}
+
+// A command for Velto's GNOME Shell extension: GNOME Shell and its settings answer, no running Velto is needed.
+int runGnomeExtensionCommand(const velto::CommandLine& commandLine)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    // Gone before this returns, keeping any change it wrote.
+    velto::SystemGnomeExtension extension(QDBusConnection::sessionBus());
+    return velto::GnomeExtensionCommand(extension).run(commandLine, out, err);
 }
 
 int runApplication(int argc, char* argv[])
@@ -130,6 +142,9 @@ int main(int argc, char* argv[])
     case Command::Invalid:
         std::fprintf(stderr, "velto: %s\n\n%s", qPrintable(commandLine.error), qPrintable(velto::CommandLine::usage()));
         return velto::ExitCode::usage;
+    case Command::GnomeExtensionStatus:
+    case Command::GnomeExtensionEnable:
+        return runGnomeExtensionCommand(commandLine);
     default:
         return runClient(commandLine);
     }

@@ -31,6 +31,9 @@ private Q_SLOTS:
         row("help after a command", {u"pause"_s, u"--help"_s}, Command::Help);
         row("help after a bad argument", {u"pause"_s, u"soon"_s, u"-h"_s}, Command::Help);
         row("-v", {u"-v"_s}, Command::Version);
+        row("gnome-extension status --json", {u"gnome-extension"_s, u"status"_s, u"--json"_s},
+            Command::GnomeExtensionStatus, true);
+        row("gnome-extension enable", {u"gnome-extension"_s, u"enable"_s}, Command::GnomeExtensionEnable);
     }
     void commandsAndTheirOptions()
     {
@@ -63,6 +66,10 @@ private Q_SLOTS:
         QTest::newRow("pause twice") << QStringList{u"pause"_s, u"5"_s, u"6"_s} << u"'6'"_s;
         QTest::newRow("two commands") << QStringList{u"status"_s, u"quit"_s} << u"'quit'"_s;
         QTest::newRow("Qt option without its value") << QStringList{u"-platform"_s} << u"'-platform'"_s;
+        QTest::newRow("gnome-extension alone") << QStringList{u"gnome-extension"_s} << u"'status' or 'enable'"_s;
+        QTest::newRow("gnome-extension, unknown") << QStringList{u"gnome-extension"_s, u"on"_s} << u"'on'"_s;
+        QTest::newRow("gnome-extension enable --json")
+            << QStringList{u"gnome-extension"_s, u"enable"_s, u"--json"_s} << u"'--json' for gnome-extension enable"_s;
     }
     void badArgumentsAreInvalidWithAReason()
     {
@@ -97,7 +104,12 @@ private Q_SLOTS:
 
     void onlyCommandsForTheRunningInstanceTalkToIt()
     {
-        const QList<Command> local{Command::Run, Command::Help, Command::Version, Command::Invalid};
+        const QList<Command> local{Command::Run,
+                                   Command::Help,
+                                   Command::Version,
+                                   Command::GnomeExtensionStatus,
+                                   Command::GnomeExtensionEnable,
+                                   Command::Invalid};
         for (int value = 0; value <= int(Command::Invalid); ++value) {
             CommandLine line;
             line.command = Command(value);
@@ -115,6 +127,14 @@ private Q_SLOTS:
             // Every command the usage shows parses as something other than a mistake.
             const QString first = word.section(u' ', 0, 0);
             QVERIFY2(CommandLine::parse({first}).command != Command::Invalid, qPrintable(first));
+        }
+        // Too wide for the column: on a line of its own, in the section of commands that need no running Velto.
+        QVERIFY(usage.contains(u"GNOME Shell itself, with or without a running Velto:\n"
+                               u"  gnome-extension status [--json] | enable\n"_s));
+        // A command with words of its own takes each of them.
+        for (const CommandLine::Spec& spec : CommandLine::commands()) {
+            for (const QString& word : spec.words)
+                QVERIFY2(CommandLine::parse({spec.name, word}).command != Command::Invalid, qPrintable(word));
         }
         QVERIFY(usage.endsWith(u'\n'));
     }

@@ -64,6 +64,20 @@ private Q_SLOTS:
         QVERIFY(result.err.contains(u"Usage: velto"_s));
     }
 
+    // GNOME Shell's extension is asked of the shell itself: this bus has none, running Velto or not.
+    void gnomeExtensionCommandsSayThereIsNoGnomeShell()
+    {
+        for (const QString& action : {u"status"_s, u"enable"_s}) {
+            const Result result = velto({u"gnome-extension"_s, action});
+            QCOMPARE(result.exitCode, 1);
+            QCOMPARE(result.out, QString());
+            QCOMPARE(result.err, u"velto: there is no GNOME Shell in this session\n"_s);
+        }
+        const Result json = velto({u"gnome-extension"_s, u"status"_s, u"--json"_s});
+        QCOMPARE(json.exitCode, 1);
+        QCOMPARE(QJsonDocument::fromJson(json.out.toUtf8()).object().value(u"state"_s).toString(), u"notGnome"_s);
+    }
+
     void theRunningInstanceFollowsTheCommandLine()
     {
         QProcess* instance = startInstance();

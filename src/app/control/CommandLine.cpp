@@ -78,6 +78,8 @@ bool CommandLine::talksToRunningInstance() const
     case Command::Run:
     case Command::Help:
     case Command::Version:
+    case Command::GnomeExtensionStatus:
+    case Command::GnomeExtensionEnable:
     case Command::Invalid:
         return false;
     default:
@@ -104,7 +106,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     }
 
     const QString& word = arguments.at(index);
-    const QStringList rest = arguments.mid(index + 1);
+    QStringList rest = arguments.mid(index + 1);
     if (word == u"--version"_s || word == u"-v"_s) {
         if (!rest.isEmpty())
             return invalid(u"unexpected argument '%1'"_s.arg(rest.first()));
@@ -118,9 +120,22 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     }
 
     CommandLine result = withCommand(found.value());
+    QString name = word;
+    if (result.command == Command::GnomeExtensionStatus) {
+        // Two words: what to do with the extension comes second.
+        const QString action = rest.value(0);
+        if (action == u"enable"_s)
+            result.command = Command::GnomeExtensionEnable;
+        else if (action != u"status"_s)
+            return invalid(action.isEmpty() ? u"gnome-extension needs 'status' or 'enable'"_s
+                                            : u"unknown gnome-extension command '%1'"_s.arg(action));
+        name += u' ' + action;
+        rest.removeFirst();
+    }
+    const bool takesJson = result.command == Command::Status || result.command == Command::GnomeExtensionStatus;
     for (qsizetype i = 0; i < rest.size(); ++i) {
         const QString& argument = rest.at(i);
-        if (result.command == Command::Status && argument == u"--json"_s && !result.json) {
+        if (takesJson && argument == u"--json"_s && !result.json) {
             result.json = true;
         } else if (result.command == Command::TakeBreak && argument == u"--long"_s && !result.longBreak) {
             result.longBreak = true;
@@ -132,9 +147,9 @@ CommandLine CommandLine::parse(const QStringList& arguments)
                     u"MINUTES must be a whole number from 1 to %1, not '%2'"_s.arg(maximumPauseMinutes).arg(argument));
             result.pauseMinutes = minutes;
         } else if (argument.startsWith(u'-')) {
-            return invalid(u"unknown option '%1' for %2"_s.arg(argument, word));
+            return invalid(u"unknown option '%1' for %2"_s.arg(argument, name));
         } else {
-            return invalid(u"unexpected argument '%1' for %2"_s.arg(argument, word));
+            return invalid(u"unexpected argument '%1' for %2"_s.arg(argument, name));
         }
     }
     return result;
@@ -168,6 +183,12 @@ const QList<CommandLine::Spec>& CommandLine::commands()
         {u"settings"_s, Command::Settings, {}, u"Open the settings window"_s, {}, {}},
         {u"check-updates"_s, Command::CheckUpdates, {}, u"Check for a newer version and say what was found"_s, {}, {}},
         {u"quit"_s, Command::Quit, {}, u"Quit Velto"_s, {}, {}},
+        {u"gnome-extension"_s,
+         Command::GnomeExtensionStatus, // or GnomeExtensionEnable, by the word after it
+         u"status [--json] | enable"_s,
+         u"Tell whether Velto's GNOME Shell extension is installed, enabled and running, or enable it"_s,
+         {},
+         {u"status"_s, u"enable"_s}},
     };
     return table;
 }
@@ -177,24 +198,36 @@ QString CommandLine::usage()
     const auto synopsis = [](const Spec& spec) -> QString {
         return spec.arguments.isEmpty() ? spec.name : spec.name + u' ' + spec.arguments;
     };
+    // A synopsis too wide for the column has a line of its own, with its summary under it.
+    constexpr qsizetype widest = 24;
     qsizetype width = QStringLiteral("-v, --version").size();
-    for (const Spec& spec : commands())
-        width = std::max(width, synopsis(spec).size());
+    for (const Spec& spec : commands()) {
+        if (synopsis(spec).size() <= widest)
+            width = std::max(width, synopsis(spec).size());
+    }
     const auto line = [width](const QString& left, const QString& right) -> QString {
+        if (left.size() > width)
+            return u"  "_s + left + u'\n' + QString(width + 5, u' ') + right + u'\n';
         return u"  "_s + left.leftJustified(width + 3) + right + u'\n';
     };
+    QString forRunning;
+    QString alone;
+    for (const Spec& spec : commands()) {
+        CommandLine commandLine;
+        commandLine.command = spec.command;
+        (commandLine.talksToRunningInstance() ? forRunning : alone) += line(synopsis(spec), spec.summary);
+    }
     QString text = u"Usage: velto [COMMAND]\n"
                    u"\n"
                    u"Without a command, starts Velto; if Velto is already running, opens its settings instead.\n"
                    u"\n"
-                   u"Commands for the running Velto:\n"_s;
-    for (const Spec& spec : commands())
-        text += line(synopsis(spec), spec.summary);
+                   u"Commands for the running Velto:\n"_s +
+                   forRunning + u"\nCommands that ask GNOME Shell itself, with or without a running Velto:\n"_s + alone;
     text += u"\nOptions:\n"_s + line(u"-h, --help"_s, u"Show this help"_s) +
             line(u"-v, --version"_s, u"Show the version"_s) +
             u"\n"
             u"Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
-            u"failed), 2 for bad arguments.\n"_s;
+            u"failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.\n"_s;
     return text;
 }
 

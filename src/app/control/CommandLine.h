@@ -14,8 +14,8 @@ inline constexpr int failure = 1; // no running instance, or it did not answer
 inline constexpr int usage = 2;   // bad arguments
 } // namespace ExitCode
 
-// What the command line asks for. Everything but `Run`, `Help`, `Version` and `Invalid` is sent to the running
-// instance.
+// What the command line asks for. Everything but `Run`, `Help`, `Version`, `Invalid` and the GNOME extension's
+// commands (which ask GNOME Shell itself) is sent to the running instance.
 struct CommandLine {
     enum class Command {
         Run, // no command: start Velto, or hand over to the one already running
@@ -31,6 +31,8 @@ struct CommandLine {
         Settings,
         CheckUpdates,
         Quit,
+        GnomeExtensionStatus,
+        GnomeExtensionEnable,
         Invalid,
     };
 
@@ -38,7 +40,7 @@ struct CommandLine {
     static constexpr int maximumPauseMinutes = int(ControlBus::longestPauseSeconds / 60);
 
     Command command = Command::Run;
-    bool json = false;                      // status
+    bool json = false;                      // status, gnome-extension status
     bool longBreak = false;                 // break
     int pauseMinutes = defaultPauseMinutes; // pause
     QString error;                          // Invalid: what was wrong, one line
