@@ -126,16 +126,20 @@ public:
             stop();
             return false;
         }
-        m_compositor = startGroup(command, env, m_base->filePath(QStringLiteral("compositor.log")));
-        // GNOME Shell loads its whole JavaScript shell first: on a loaded machine it needs the longer wait.
-        const int startMs = kind == Kind::Gnome ? 40000 : 15000;
-        if (!m_compositor || !waitUntilReady(options, QDeadlineTimer(startMs))) {
-            qWarning().noquote() << "HeadlessCompositor: the compositor did not come up; its output:\n"
-                                 << log().right(4000);
-            stop();
+        m_command = command;
+        m_compositorEnvironment = env;
+        m_options = options;
+        return launch();
+    }
+
+    // Ends the compositor and starts it afresh in the same session (home folder, settings, buses), as a new
+    // login would.
+    bool restart()
+    {
+        if (!m_compositor || m_command.isEmpty())
             return false;
-        }
-        return true;
+        stopGroup(m_compositor);
+        return launch();
     }
 
     void stop()
@@ -159,6 +163,7 @@ public:
         m_display.clear();
         m_swaySocket.clear();
         m_outputs.clear();
+        m_command.clear();
         m_base.reset();
     }
 
@@ -192,6 +197,13 @@ public:
         env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), m_busAddress);
         if (!m_swaySocket.isEmpty())
             env.insert(QStringLiteral("SWAYSOCK"), m_swaySocket);
+        // GNOME Shell's settings and extensions, as the shell itself reads them.
+        if (m_kind == Kind::Gnome && m_base) {
+            const QString home = m_base->filePath(QStringLiteral("home"));
+            env.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/.config"));
+            env.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/.local/share"));
+            env.insert(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("keyfile"));
+        }
         return env;
     }
 
@@ -340,6 +352,21 @@ public:
 private:
     // Sway refuses to run as root, so under root it runs as nobody; root's clients still reach its sockets.
     static constexpr uid_t kSwayUser = 65534;
+
+    bool launch()
+    {
+        m_compositor =
+            startGroup(m_command, m_compositorEnvironment, m_base->filePath(QStringLiteral("compositor.log")));
+        // GNOME Shell loads its whole JavaScript shell first: on a loaded machine it needs the longer wait.
+        const int startMs = m_kind == Kind::Gnome ? 40000 : 15000;
+        if (!m_compositor || !waitUntilReady(m_options, QDeadlineTimer(startMs))) {
+            qWarning().noquote() << "HeadlessCompositor: the compositor did not come up; its output:\n"
+                                 << log().right(4000);
+            stop();
+            return false;
+        }
+        return true;
+    }
 
     bool runClient(const QString& program, const QStringList& arguments, QByteArray* output, int timeoutMs,
                    QProcess::ProcessChannelMode errors) const
@@ -735,6 +762,9 @@ private:
     std::unique_ptr<QProcess> m_bus;
     std::unique_ptr<QProcess> m_systemBus;
     std::unique_ptr<QProcess> m_compositor;
+    QStringList m_command;
+    QProcessEnvironment m_compositorEnvironment;
+    Options m_options;
     std::vector<std::unique_ptr<QProcess>> m_windows;
     QString m_busAddress;
     QString m_busConnectionName;
