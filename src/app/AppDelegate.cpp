@@ -462,10 +462,10 @@ bool AppDelegate::openSettings()
         auto detectionSources = [this] {
             return m_services.detectionSources ? m_services.detectionSources() : QVariantMap();
         };
-        m_settingsWindows = windows->makeSettingsWindows({m_services.screenLock.get(), m_activityDetector->workspace(),
-                                                          m_services.applicationInfo.get(), m_updateAvailability,
-                                                          &m_services.userDefaults->writeState(), detectionSources,
-                                                          qEnvironmentVariable("XDG_CURRENT_DESKTOP")});
+        m_settingsWindows = windows->makeSettingsWindows(
+            {m_services.screenLock.get(), m_activityDetector->workspace(), m_services.applicationInfo.get(),
+             m_updateAvailability, &m_services.userDefaults->writeState(), detectionSources,
+             qEnvironmentVariable("XDG_CURRENT_DESKTOP"), m_services.gnomeExtension.get()});
     }
     m_settingsWindows->showSettings(m_settingsManager, m_breakManager);
     return true;

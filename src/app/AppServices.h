@@ -2,6 +2,7 @@
 
 #include "detection/ApplicationInfoProviding.h"
 #include "detection/DetectionProviders.h"
+#include "detection/GnomeExtension.h"
 #include "notification/NotificationWindowPresenting.h"
 #include "scheduling/KeyDownTimeProviding.h"
 #include "scheduling/ScreenLocking.h"
@@ -39,6 +40,9 @@ struct AppServices {
     std::unique_ptr<NotificationWindowPresenting> notificationPresenter;
     // Names and icons for the settings window's list of running applications; none is fine.
     std::unique_ptr<ApplicationInfoProviding> applicationInfo;
+    // Velto's GNOME Shell extension, for the settings window, in sessions where Smart Pause needs it to see
+    // windows (Wayland); none elsewhere and in tests.
+    std::unique_ptr<GnomeExtensionControlling> gnomeExtension;
     // Off in tests: the updater reaches out to the network on its own schedule.
     bool runsUpdater = false;
 

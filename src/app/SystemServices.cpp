@@ -6,6 +6,7 @@
 #include "LaunchAtLoginService.h"
 #include "LayerShell.h"
 #include "SystemDetectionProviders.h"
+#include "SystemGnomeExtension.h"
 #include "SystemScreenLock.h"
 #include "SystemSleepSignals.h"
 #include "VeltoWindows.h"
@@ -35,6 +36,9 @@ AppServices AppServices::system()
     services.keyDownTime = std::move(detection.keyDownTime);
     services.detectionSources = std::move(detection.sources);
     services.applicationInfo = std::make_unique<DesktopApplicationInfo>(desktopEntries);
+    // On X11 windows are seen without it. It asks nothing until the settings window opens.
+    if (qEnvironmentVariable("XDG_SESSION_TYPE") == u"wayland"_s || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+        services.gnomeExtension = std::make_unique<SystemGnomeExtension>(QDBusConnection::sessionBus());
     // Windows and chimes come from their module, loaded when the first of them is due; on Wayland they learn
     // where the focused window is from detection's own link.
     services.windows = veltoWindows;

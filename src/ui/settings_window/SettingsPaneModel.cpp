@@ -303,6 +303,35 @@ void SettingsPaneModel::setDetectionCoverage(const DetectionCoverage& coverage)
     Q_EMIT detectionCoverageChanged();
 }
 
+QString SettingsPaneModel::gnomeExtensionExplanation() const
+{
+    if (!m_gnomeExtensionError.isEmpty())
+        return tr("It could not be enabled: %1.").arg(m_gnomeExtensionError);
+    return velto::gnomeExtensionExplanation(m_gnomeExtension);
+}
+
+void SettingsPaneModel::setGnomeExtension(GnomeExtensionState state, bool canEnable)
+{
+    if (state == m_gnomeExtension && canEnable == m_canEnableGnomeExtension)
+        return;
+    m_gnomeExtension = state;
+    m_canEnableGnomeExtension = canEnable;
+    Q_EMIT gnomeExtensionChanged();
+}
+
+void SettingsPaneModel::setEnablingGnomeExtension(bool enabling, const QString& error)
+{
+    m_enablingGnomeExtension = enabling;
+    m_gnomeExtensionError = error;
+    Q_EMIT gnomeExtensionChanged();
+}
+
+void SettingsPaneModel::enableGnomeExtension()
+{
+    if (onEnableGnomeExtension && m_canEnableGnomeExtension && !m_enablingGnomeExtension)
+        onEnableGnomeExtension();
+}
+
 QStringList SettingsPaneModel::optionLabels(Picker picker) const
 {
     auto titles = []<typename E>(const QList<E>& cases) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "detection/DetectionCoverage.h"
+#include "detection/GnomeExtension.h"
 #include "settings/SettingsManager.h"
 #include "settings/UserDefaultsStore.h"
 
@@ -58,6 +59,14 @@ class SettingsPaneModel final : public QObject {
     Q_PROPERTY(QString detectionNotice READ detectionNotice NOTIFY detectionCoverageChanged)
     // Typing is read as any input here, so the Breaks pane says the pointer counts too.
     Q_PROPERTY(bool typingCountsPointer READ typingCountsPointer NOTIFY detectionCoverageChanged)
+    // Velto's GNOME Shell extension (the Smart Pause pane, on GNOME): its state in one line, empty for nothing to
+    // show; why it matters where it does not run; whether the pane offers to enable it, and whether that is under
+    // way. A failed attempt says why in place of the explanation.
+    Q_PROPERTY(QString gnomeExtensionText READ gnomeExtensionText NOTIFY gnomeExtensionChanged)
+    Q_PROPERTY(QString gnomeExtensionExplanation READ gnomeExtensionExplanation NOTIFY gnomeExtensionChanged)
+    Q_PROPERTY(bool gnomeExtensionActive READ gnomeExtensionActive NOTIFY gnomeExtensionChanged)
+    Q_PROPERTY(bool canEnableGnomeExtension READ canEnableGnomeExtension NOTIFY gnomeExtensionChanged)
+    Q_PROPERTY(bool enablingGnomeExtension READ enablingGnomeExtension NOTIFY gnomeExtensionChanged)
 
     Q_PROPERTY(bool updateAvailable READ updateAvailable NOTIFY updateChanged)
     Q_PROPERTY(QString updateNudgeText READ updateNudgeText NOTIFY updateChanged)
@@ -123,6 +132,18 @@ public:
     [[nodiscard]] QString detectionNotice() const { return m_detectionCoverage.notice; }
     [[nodiscard]] bool typingCountsPointer() const { return m_detectionCoverage.typingCountsPointer; }
     void setDetectionCoverage(const DetectionCoverage& coverage);
+
+    [[nodiscard]] QString gnomeExtensionText() const { return gnomeExtensionStateText(m_gnomeExtension); }
+    [[nodiscard]] QString gnomeExtensionExplanation() const;
+    [[nodiscard]] bool gnomeExtensionActive() const { return m_gnomeExtension == GnomeExtensionState::Active; }
+    [[nodiscard]] bool canEnableGnomeExtension() const { return m_canEnableGnomeExtension; }
+    [[nodiscard]] bool enablingGnomeExtension() const { return m_enablingGnomeExtension; }
+    void setGnomeExtension(GnomeExtensionState state, bool canEnable);
+    // Enabling started (true) or ended (false), with the error it gave (empty on success).
+    void setEnablingGnomeExtension(bool enabling, const QString& error = {});
+    // Enables the extension; the controller sets it.
+    std::function<void()> onEnableGnomeExtension;
+    Q_INVOKABLE void enableGnomeExtension();
 
     [[nodiscard]] bool updateAvailable() const { return m_updateAvailable; }
     [[nodiscard]] QString updateNudgeText() const;
@@ -200,6 +221,7 @@ Q_SIGNALS:
     void saveFailedChanged();
     void updateChanged();
     void detectionCoverageChanged();
+    void gnomeExtensionChanged();
 
 private:
     void bumpRevision();
@@ -213,6 +235,10 @@ private:
     int m_revision = 0;
     bool m_showLockScreenAlert = false;
     DetectionCoverage m_detectionCoverage;
+    GnomeExtensionState m_gnomeExtension = GnomeExtensionState::NotGnome;
+    bool m_canEnableGnomeExtension = false;
+    bool m_enablingGnomeExtension = false;
+    QString m_gnomeExtensionError;
     bool m_updateAvailable = false;
     QString m_updateVersionHint;
 };

@@ -9,6 +9,7 @@
 #include "UpdateAvailabilityModel.h"
 #include "VeltoUrls.h"
 #include "detection/DetectionCoverage.h"
+#include "detection/GnomeExtension.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 
@@ -106,6 +107,22 @@ void SettingsWindowController::bringForward(QQuickWindow* window)
     QTimer::singleShot(0, window, [window] { window->requestActivate(); });
 }
 
+void SettingsWindowController::showDetectionCoverage(SettingsPaneModel* paneModel) const
+{
+    const GnomeExtensionControlling* extension = m_collaborators.gnomeExtension;
+    const std::optional<GnomeExtensionFacts> facts = extension ? extension->facts() : std::nullopt;
+    const GnomeExtensionState state = facts ? gnomeExtensionState(*facts) : GnomeExtensionState::NotGnome;
+    paneModel->setGnomeExtension(state, facts && gnomeExtensionEnabling(*facts).possible());
+    // Asked each time: a source can become available after start, or once the extension runs.
+    if (!m_collaborators.detectionSources)
+        return;
+    QVariantMap sources = m_collaborators.detectionSources();
+    // Where the extension's own line shows, it tells what the windows need, with the button that brings it.
+    if (state != GnomeExtensionState::NotGnome)
+        sources.remove(u"windows"_s);
+    paneModel->setDetectionCoverage(detectionCoverage(sources, m_collaborators.desktop));
+}
+
 QQuickWindow* SettingsWindowController::buildWindow(SettingsManager* settingsManager)
 {
     QQmlEngine& qml = engine();
@@ -120,9 +137,24 @@ QQuickWindow* SettingsWindowController::buildWindow(SettingsManager* settingsMan
                                    QUrl(QString::fromLatin1(urls::website)), QString::fromLatin1(urls::contactAddress)};
     auto* paneModel = new SettingsPaneModel(settingsManager, m_collaborators.lock, about);
     paneModel->setStoreWriteState(m_collaborators.storeWriteState);
-    // Asked at each opening: a source can become available after start.
-    if (m_collaborators.detectionSources)
-        paneModel->setDetectionCoverage(detectionCoverage(m_collaborators.detectionSources(), m_collaborators.desktop));
+    showDetectionCoverage(paneModel);
+    if (GnomeExtensionControlling* extension = m_collaborators.gnomeExtension) {
+        connect(extension, &GnomeExtensionControlling::factsGathered, paneModel,
+                [this, paneModel] { showDetectionCoverage(paneModel); });
+        // Asked at each opening; the answer comes a moment later.
+        extension->refresh();
+        QPointer<GnomeExtensionControlling> guarded(extension);
+        paneModel->onEnableGnomeExtension = [paneModel, guarded] {
+            if (!guarded)
+                return;
+            paneModel->setEnablingGnomeExtension(true);
+            // The window may be gone by the time the shell has answered.
+            guarded->enable([model = QPointer<SettingsPaneModel>(paneModel)](const QString& error) {
+                if (model)
+                    model->setEnablingGnomeExtension(false, error);
+            });
+        };
+    }
     auto* focusAppModel =
         new AddFocusAppModel(settingsManager, m_collaborators.workspace, m_collaborators.applications);
     if (UpdateAvailabilityModel* updates = m_collaborators.updates) {

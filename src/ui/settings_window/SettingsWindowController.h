@@ -14,6 +14,7 @@ class QQmlEngine;
 namespace velto {
 
 class SettingsManager;
+class SettingsPaneModel;
 
 // The settings window: built on demand, brought forward while it is open, and built afresh (on General)
 // after it was closed. The QML engine is made the first time the window is asked for. Main thread.
@@ -41,6 +42,8 @@ public:
 private:
     QQmlEngine& engine();
     QQuickWindow* buildWindow(SettingsManager* settingsManager);
+    // What this session's detection misses, and the state of Velto's GNOME Shell extension.
+    void showDetectionCoverage(SettingsPaneModel* paneModel) const;
     static void bringForward(QQuickWindow* window);
 
     Collaborators m_collaborators;

@@ -42,6 +42,50 @@ ColumnLayout {
         }
     }
 
+    // Velto's GNOME Shell extension, on GNOME only: its state, why it matters while it does not run, and the way
+    // to enable it.
+    RowLayout {
+        objectName: "gnomeExtension"
+        visible: pane.paneModel.gnomeExtensionText !== ""
+        Layout.fillWidth: true
+        spacing: 8
+        SymbolIcon {
+            Layout.alignment: Qt.AlignTop
+            Layout.topMargin: 1
+            name: pane.paneModel.gnomeExtensionActive ? "checkmark.circle" : "info.circle"
+            size: 15
+            color: Theme.secondaryText
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 2
+            Label {
+                objectName: "gnomeExtensionState"
+                Layout.fillWidth: true
+                text: pane.paneModel.gnomeExtensionText
+                wrapMode: Text.WordWrap
+                font.pixelSize: Theme.footnoteSize + 1
+            }
+            Label {
+                objectName: "gnomeExtensionExplanation"
+                visible: text !== ""
+                Layout.fillWidth: true
+                text: pane.paneModel.gnomeExtensionExplanation
+                wrapMode: Text.WordWrap
+                color: Theme.secondaryText
+                font.pixelSize: Theme.footnoteSize + 1
+            }
+        }
+        Button {
+            objectName: "enableGnomeExtension"
+            visible: pane.paneModel.canEnableGnomeExtension
+            enabled: !pane.paneModel.enablingGnomeExtension
+            Layout.alignment: Qt.AlignVCenter
+            text: qsTr("Enable")
+            onClicked: pane.paneModel.enableGnomeExtension()
+        }
+    }
+
     FormSection {
         title: "Activity Detection"
         SwitchRow {

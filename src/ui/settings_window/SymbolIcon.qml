@@ -22,6 +22,7 @@ Item {
         "bell": { outline: "M6 16.5 L6 11 A6 6 0 0 1 18 11 L18 16.5 L19.5 18 L4.5 18 Z", mark: "M10 20.5 A2 2 0 0 0 14 20.5" },
         "paintbrush": { outline: "M20 3.5 C17 5.5 13.5 9 11.5 11.5 L12.5 12.5 C15 10.5 18.5 7 20.5 4 Z", mark: "M10.5 12.8 C8.2 12.6 6.8 14.2 6.6 16.2 C6.4 18 5.4 19.2 3.8 19.8 C6.5 21 9.8 20.6 11.3 18.8 C12.4 17.4 12.4 14.2 10.5 12.8 Z" },
         "info.circle": { outline: circle, mark: "M12 11 L12 16.5 M12 7.6 L12 7.7" },
+        "checkmark.circle": { outline: circle, mark: "M8 12.4 L10.9 15.2 L16.2 9.3" },
         "exclamationmark.circle": { outline: circle, mark: "M12 7.5 L12 13 M12 16.3 L12 16.4" },
         "plus": { outline: "", mark: "M12 5 L12 19 M5 12 L19 12" },
         "plus.circle": { outline: circle, mark: "M12 8 L12 16 M8 12 L16 12" },

@@ -12,6 +12,7 @@ namespace velto {
 
 class ApplicationInfoProviding;
 class BreakManager;
+class GnomeExtensionControlling;
 class NotificationWindowPresenting;
 class ScreenLocking;
 class SettingsManager;
@@ -56,6 +57,9 @@ public:
         // desktop's name (XDG_CURRENT_DESKTOP): the panes tell what these cannot see. None tells nothing.
         std::function<QVariantMap()> detectionSources{};
         QString desktop{};
+        // Velto's GNOME Shell extension, where Smart Pause needs it (GNOME on Wayland): the Smart Pause pane tells
+        // its state and offers to enable it. None tells nothing.
+        GnomeExtensionControlling* gnomeExtension = nullptr;
     };
 
     virtual ~VeltoWindows() = default;

@@ -1,6 +1,7 @@
 #include "AddFocusAppModel.h"
 #include "FakeApplicationInfo.h"
 #include "FakeDetectionProviders.h"
+#include "FakeGnomeExtension.h"
 #include "FakeScreenLock.h"
 #include "InMemoryUserDefaults.h"
 #include "SettingsPaneModel.h"
@@ -81,8 +82,9 @@ private:
         FakeApplicationInfo applications;
         UpdateAvailabilityModel updates;
         QVariantMap detectionSources;
+        FakeGnomeExtension gnomeExtension;
         SettingsWindowController controller{{&lock, &workspace, &applications, &updates, &store.writeState(),
-                                             [this] { return detectionSources; }, u"GNOME"_s}};
+                                             [this] { return detectionSources; }, u"GNOME"_s, &gnomeExtension}};
 
         QQuickWindow* open()
         {
@@ -430,6 +432,58 @@ private Q_SLOTS:
         QCOMPARE(notice->property("text").toString(), detectionCoverage(f.detectionSources, u"GNOME"_s).notice);
         QCOMPARE(f.pane(1)->findChild<QObject*>(u"typingFootnote"_s)->property("text").toString(),
                  typingNote + u" Any keyboard or pointer input counts on this desktop."_s);
+    }
+
+    void gnomeExtensionIsToldAndEnabledOnTheSmartPausePane()
+    {
+        Fixture f;
+        f.detectionSources = {{u"windows"_s, u"none"_s}, {u"typing"_s, u"none"_s}};
+        const auto shown = [&f](const char* name) {
+            return isShown(f.pane(2)->findChild<QObject*>(QLatin1StringView(name)));
+        };
+        const auto text = [&f](const char* name) {
+            return f.pane(2)->findChild<QObject*>(QLatin1StringView(name))->property("text").toString();
+        };
+
+        // No GNOME Shell: no line, and the notice says what the windows need.
+        f.gnomeExtension.found = GnomeExtensionFacts();
+        QQuickWindow* window = f.open();
+        QTRY_VERIFY(f.gnomeExtension.facts().has_value());
+        QVERIFY(!shown("gnomeExtension"));
+        QCOMPARE(text("detectionNotice"), detectionCoverage(f.detectionSources, u"GNOME"_s).notice);
+        window->close();
+
+        // Installed, not enabled: the state, why it matters and the button; the notice leaves the windows to it.
+        GnomeExtensionFacts off;
+        off.shellRunning = off.installed = off.settingsReadable = true;
+        GnomeExtensionFacts running = off;
+        running.serving = true;
+        f.gnomeExtension.found = off;
+        f.gnomeExtension.afterEnabling = running;
+        window = f.open();
+        QTRY_VERIFY(shown("gnomeExtension"));
+        QCOMPARE(text("gnomeExtensionState"), u"GNOME extension: installed, not enabled"_s);
+        QCOMPARE(text("gnomeExtensionExplanation"),
+                 u"Without it, Smart Pause cannot see which window is in front on GNOME."_s);
+        QVERIFY(shown("enableGnomeExtension"));
+        QCOMPARE(text("detectionNotice"), detectionCoverage({{u"typing"_s, u"none"_s}}, u"GNOME"_s).notice);
+        emitSignal(f.pane(2)->findChild<QObject*>(u"enableGnomeExtension"_s), "clicked");
+        QTRY_COMPARE(text("gnomeExtensionState"), u"GNOME extension: active"_s);
+        QCOMPARE(f.gnomeExtension.enables, 1);
+        QVERIFY(!shown("enableGnomeExtension"));
+        QVERIFY(!shown("gnomeExtensionExplanation"));
+        window->close();
+
+        // A refusal is told in place of the explanation; the button stays, to try again.
+        f.gnomeExtension.found = off;
+        f.gnomeExtension.enableError = u"the settings are locked"_s;
+        window = f.open();
+        QTRY_VERIFY(shown("enableGnomeExtension"));
+        emitSignal(f.pane(2)->findChild<QObject*>(u"enableGnomeExtension"_s), "clicked");
+        QTRY_COMPARE(text("gnomeExtensionExplanation"), u"It could not be enabled: the settings are locked."_s);
+        QCOMPARE(text("gnomeExtensionState"), u"GNOME extension: installed, not enabled"_s);
+        QVERIFY(shown("enableGnomeExtension"));
+        QVERIFY(f.pane(2)->findChild<QObject*>(u"enableGnomeExtension"_s)->property("enabled").toBool());
     }
 
     // On a real compositor, in the style users get, the General pane's switches stand one under another: the
