@@ -38,7 +38,8 @@ RowLayout {
         Layout.preferredWidth: 190
         model: row.paneModel.optionLabels(SettingsPaneModel.FocusAppRowMode)
         currentIndex: row.app.mode !== undefined ? row.app.mode : -1
-        Accessible.name: "Pause breaks for " + (row.app.name || "")
+        //: Spoken name of a focus app's picker; %1 is the app's name.
+        Accessible.name: qsTr("Pause breaks for %1").arg(row.app.name || "")
         onActivated: index => {
             row.modeChosen(index);
             currentIndex = Qt.binding(() => row.app.mode !== undefined ? row.app.mode : -1);
@@ -47,7 +48,8 @@ RowLayout {
     ToolButton {
         objectName: "removeFocusApp"
         flat: true
-        Accessible.name: "Remove " + (row.app.name || "")
+        //: Spoken name of the button that removes a focus app; %1 is the app's name.
+        Accessible.name: qsTr("Remove %1").arg(row.app.name || "")
         onClicked: row.deleted()
         contentItem: SymbolIcon { name: "minus.circle.fill"; size: 18; color: Theme.red }
     }
