@@ -48,6 +48,7 @@ Popup {
             Label {
                 Layout.fillWidth: true
                 text: qsTr("Add Focus App")
+                wrapMode: Text.WordWrap
                 font.weight: Font.DemiBold
                 font.pixelSize: 15
                 Accessible.role: Accessible.Heading
@@ -204,11 +205,14 @@ Popup {
                     Layout.fillWidth: true
                     //: Followed by a picker of when the chosen app holds breaks back ("When in Foreground"…).
                     text: qsTr("Pause breaks")
+                    wrapMode: Text.WordWrap
                     font.pixelSize: Theme.rowSize
                 }
                 ComboBox {
                     objectName: "sheetMode"
-                    Layout.preferredWidth: 240
+                    Layout.preferredWidth: Math.max(240, implicitWidth)
+                    Layout.minimumWidth: implicitWidth
+                    implicitContentWidthPolicy: ComboBox.WidestText
                     model: sheet.focusAppModel.modeTitles
                     currentIndex: sheet.focusAppModel.selectedMode
                     Accessible.name: qsTr("Pause breaks")

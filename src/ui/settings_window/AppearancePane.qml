@@ -96,7 +96,7 @@ ColumnLayout {
             }
             Label {
                 objectName: "dimLevelText"
-                Layout.preferredWidth: 40
+                Layout.preferredWidth: Math.max(40, implicitWidth)
                 horizontalAlignment: Text.AlignRight
                 text: pane.paneModel.dimLevelText
             }

@@ -111,11 +111,16 @@ ColumnLayout {
     FormSection {
         //: Ready-made sets of break settings, chosen with the buttons below.
         title: qsTr("Presets")
-        RowLayout {
+        GridLayout {
             Layout.fillWidth: true
-            spacing: 8
+            columnSpacing: 8
+            rowSpacing: 8
+            // One row of four, or two rows of two where the names are too long for one.
+            columns: balanced.implicitWidth + deepFocus.implicitWidth + eyeCare.implicitWidth + custom.implicitWidth
+                     + 3 * columnSpacing <= width ? 4 : 2
             // The presets' names used elsewhere in Velto, translated once.
             PresetButton {
+                id: balanced
                 objectName: "presetBalanced"
                 paneModel: pane.paneModel
                 kind: 0
@@ -124,6 +129,7 @@ ColumnLayout {
                 Layout.fillWidth: true
             }
             PresetButton {
+                id: deepFocus
                 objectName: "presetDeepFocus"
                 paneModel: pane.paneModel
                 kind: 1
@@ -132,6 +138,7 @@ ColumnLayout {
                 Layout.fillWidth: true
             }
             PresetButton {
+                id: eyeCare
                 objectName: "presetEyeCare"
                 paneModel: pane.paneModel
                 kind: 2
@@ -140,6 +147,7 @@ ColumnLayout {
                 Layout.fillWidth: true
             }
             PresetButton {
+                id: custom
                 objectName: "presetCustom"
                 paneModel: pane.paneModel
                 kind: 3

@@ -35,7 +35,9 @@ RowLayout {
     ComboBox {
         id: mode
         objectName: "focusAppMode"
-        Layout.preferredWidth: 190
+        Layout.preferredWidth: Math.max(190, implicitWidth)
+        Layout.minimumWidth: implicitWidth
+        implicitContentWidthPolicy: ComboBox.WidestText
         model: row.paneModel.optionLabels(SettingsPaneModel.FocusAppRowMode)
         currentIndex: row.app.mode !== undefined ? row.app.mode : -1
         //: Spoken name of a focus app's picker; %1 is the app's name.

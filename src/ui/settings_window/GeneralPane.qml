@@ -57,6 +57,7 @@ ColumnLayout {
             Label {
                 Layout.fillWidth: true
                 text: qsTr("Active days")
+                wrapMode: Text.WordWrap
             }
             Repeater {
                 // The short day names used elsewhere in Velto, translated once.
@@ -82,7 +83,8 @@ ColumnLayout {
                     checkable: true
                     checked: (pane.schedule.activeDays || []).includes(modelData.day)
                     highlighted: checked
-                    implicitWidth: 40
+                    // At least 40 wide, wider for a day name that needs it.
+                    implicitWidth: Math.max(40, implicitContentWidth + leftPadding + rightPadding)
                     leftPadding: 2
                     rightPadding: 2
                     font.pixelSize: 11

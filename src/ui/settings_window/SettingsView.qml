@@ -116,7 +116,7 @@ ApplicationWindow {
                 text: qsTr("Your changes could not be saved. They apply until Velto quits.")
                 color: Theme.secondaryText
                 font.pixelSize: Theme.footnoteSize + 1
-                elide: Text.ElideRight
+                wrapMode: Text.WordWrap
                 Accessible.role: Accessible.AlertMessage
             }
         }
@@ -176,12 +176,18 @@ ApplicationWindow {
                             size: 17
                             color: tabRow.selected ? Theme.accentText : Theme.accent
                         }
+                        // A long category name is cut with an ellipsis rather than pushing the dot out.
                         Label {
+                            Layout.fillWidth: true
+                            // Rounded up: a layout's whole pixels would cut the last fraction of a letter.
+                            Layout.maximumWidth: Math.ceil(implicitWidth)
                             text: tabRow.modelData.title
                             color: tabRow.selected ? Theme.accentText : Theme.text
+                            elide: Text.ElideRight
                         }
                         SymbolIcon {
                             objectName: "updateDot"
+                            Layout.minimumWidth: size
                             visible: tabRow.index === 5 && window.paneModel.updateAvailable
                             name: "circle.fill"
                             size: 7
