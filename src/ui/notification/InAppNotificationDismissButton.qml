@@ -11,6 +11,7 @@ Item {
     width: 32
     height: 32
     Accessible.role: Accessible.Button
+    //: Spoken name of the card's close button (a small cross).
     Accessible.name: qsTr("Dismiss")
     Accessible.onPressAction: button.clicked()
 

@@ -62,7 +62,10 @@ Item {
 
                 Text {
                     objectName: "upcomingLabel"
+                    width: parent.width
+                    //: A small heading in capitals above the title of the card that announces the next break.
                     text: qsTr("UPCOMING BREAK")
+                    elide: Text.ElideRight
                     color: card.labelColor
                     font.family: card.fontFamily
                     font.pixelSize: 10
@@ -124,7 +127,8 @@ Item {
             Column {
                 id: countdownBlock
                 objectName: "countdownBlock"
-                width: 88
+                // Room for the label above the countdown as well, however long it is in the user's language.
+                width: Math.max(88, breakInLabel.implicitWidth, countdownText.implicitWidth)
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 2
@@ -132,7 +136,10 @@ Item {
                 Accessible.name: card.displayModel.countdownSpokenLabel
 
                 Text {
+                    id: breakInLabel
+                    objectName: "breakInLabel"
                     anchors.right: parent.right
+                    //: A small label in capitals right above a countdown such as 0:42: the time left until the break.
                     text: qsTr("BREAK IN")
                     color: card.labelColor
                     font.family: card.fontFamily
@@ -142,6 +149,7 @@ Item {
                     Accessible.ignored: true
                 }
                 TabularDigits {
+                    id: countdownText
                     objectName: "countdownText"
                     anchors.right: parent.right
                     text: card.displayModel.countdownText
@@ -165,6 +173,7 @@ Item {
 
                 InAppNotificationToolbarButtonStyle {
                     objectName: "breakNowButton"
+                    //: A button of the card: start the break at once ("Break" as a noun: the break, now).
                     text: qsTr("Break now")
                     role: InAppNotificationToolbarButtonStyle.Primary
                     dark: card.dark
@@ -178,6 +187,7 @@ Item {
                 InAppNotificationToolbarButtonStyle {
                     id: oneMinute
                     objectName: "pauseOneMinuteButton"
+                    //: A small button of the card: put the break off by one minute. Keep it short.
                     text: qsTr("1 min")
                     dark: card.dark
                     primaryColor: card.primaryColor
@@ -188,6 +198,7 @@ Item {
                 InAppNotificationToolbarButtonStyle {
                     id: threeMinutes
                     objectName: "pauseThreeMinutesButton"
+                    //: A small button of the card: put the break off by three minutes. Keep it short.
                     text: qsTr("3 min")
                     dark: card.dark
                     primaryColor: card.primaryColor
@@ -198,12 +209,15 @@ Item {
                 InAppNotificationToolbarButtonStyle {
                     id: skip
                     objectName: "skipButton"
+                    //: A small button of the card: skip the coming break.
                     text: qsTr("Skip")
                     dark: card.dark
                     primaryColor: card.primaryColor
                     backgroundColor: card.backgroundColor
                     fontFamily: card.fontFamily
+                    //: Spoken name of the card's Skip button.
                     Accessible.name: qsTr("Skip break")
+                    //: Spoken description of the card's Skip button.
                     Accessible.description: qsTr("Returns to work and skips this break when your skip settings allow.")
                     onClicked: card.actions.skip()
                 }
@@ -213,6 +227,7 @@ Item {
                 objectName: "swipeHint"
                 spacing: 4
                 Accessible.role: Accessible.StaticText
+                //: A hint at the foot of the card: a sideways swipe on the touchpad sends the card away.
                 Accessible.name: qsTr("Swipe to close")
 
                 // Two small chevrons pointing the way the card leaves.

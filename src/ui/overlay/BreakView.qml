@@ -163,6 +163,7 @@ Item {
                 objectName: "skipButton"
                 visible: view.viewModel.skipPresent
                 usable: view.viewModel.skipUsable
+                //: A button on the break screen: skip the rest of this break and go back to work.
                 text: qsTr("Skip")
                 symbol: "forward"
                 fontFamily: view.fontFamily
@@ -174,6 +175,7 @@ Item {
             CapsuleButton {
                 objectName: "endBreakButton"
                 visible: view.viewModel.endBreakPresent
+                //: A button on the break screen, shown in the break's second half: end the break now ("Break" is a noun).
                 text: qsTr("End Break")
                 symbol: "checkmark"
                 fontFamily: view.fontFamily

@@ -3,6 +3,7 @@
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPalette>
@@ -40,18 +41,26 @@ QColor toColor(const CodableColor& color)
     return QColor::fromRgbF(float(color.red), float(color.green), float(color.blue), float(color.opacity));
 }
 
+// In English here, in the user's language on screen: chooseMessage translates the one it picks.
 const QStringList BreakViewModel::shortBreakFallbackMessages = {
-    u"Look away, not at your phone"_s,
-    u"Your retinas called"_s,
-    u"Eyes go brrrr"_s,
-    u"Let's not make deals with our vision"_s,
-    u"Stare into the distance like a poet"_s,
+    //: A playful line on the screen of a short break, for a user without messages of their own; adapt freely.
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Look away, not at your phone")),
+    //: A joke on "… called, they want their … back": the eyes ask for rest.
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Your retinas called")),
+    //: Playful: tired eyes making a whirring noise.
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Eyes go brrrr")),
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Let's not make deals with our vision")),
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Stare into the distance like a poet")),
 };
 
 const QStringList BreakViewModel::longBreakFallbackMessages = {
-    u"Your desk chair is judging you"_s,   u"The floor is waiting"_s,
-    u"Gravity wants to see you stretch"_s, u"Adventure awaits (in your living room)"_s,
-    u"Time to touch grass (literally)"_s,
+    //: A playful line on the screen of a long break, for a user without messages of their own; adapt freely.
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Your desk chair is judging you")),
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "The floor is waiting")),
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Gravity wants to see you stretch")),
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Adventure awaits (in your living room)")),
+    //: "Touch grass": go outside, away from the screen.
+    QString::fromUtf8(QT_TRANSLATE_NOOP("BreakMessage", "Time to touch grass (literally)")),
 };
 
 BreakViewModel::BreakViewModel(SettingsManager* settings, BreakManager* breakManager, BreakType breakType,
@@ -76,10 +85,14 @@ BreakViewModel::BreakViewModel(SettingsManager* settings, BreakManager* breakMan
 
 QString BreakViewModel::chooseMessage(const QStringList& customMessages, BreakType breakType)
 {
-    const QStringList& pool = !customMessages.isEmpty()      ? customMessages
-                              : breakType == BreakType::Long ? longBreakFallbackMessages
-                                                             : shortBreakFallbackMessages;
-    return pool.at(int(QRandomGenerator::global()->bounded(qsizetype(pool.size()))));
+    auto pick = [](const QStringList& pool) {
+        return pool.at(int(QRandomGenerator::global()->bounded(qsizetype(pool.size()))));
+    };
+    // The user's own messages are shown as written.
+    if (!customMessages.isEmpty())
+        return pick(customMessages);
+    const QString message = pick(breakType == BreakType::Long ? longBreakFallbackMessages : shortBreakFallbackMessages);
+    return QCoreApplication::translate("BreakMessage", message.toUtf8().constData());
 }
 
 QString BreakViewModel::roundedFontFamily()
@@ -98,7 +111,11 @@ QString BreakViewModel::roundedFontFamily()
 
 QString BreakViewModel::caption() const
 {
-    return m_breakType == BreakType::Long ? u"Your body misses you"_s : u"Your eyes need you"_s;
+    if (m_breakType == BreakType::Long)
+        //: The small caption above the countdown of a long break, shown in capitals.
+        return tr("Your body misses you");
+    //: The small caption above the countdown of a short break, shown in capitals.
+    return tr("Your eyes need you");
 }
 
 QString BreakViewModel::fontFamily() const

@@ -61,6 +61,7 @@ public:
     // For the balanced Skip delay; tests hand in their own clock.
     void setDelayedAction(DelayedAction delayedAction) { m_delayedAction = std::move(delayedAction); }
 
+    // Untranslated; chooseMessage returns a fallback message in the user's language.
     static const QStringList shortBreakFallbackMessages;
     static const QStringList longBreakFallbackMessages;
     // One of the custom messages, or of the break type's own when the user has none; uniformly at random.

@@ -145,7 +145,7 @@ QQuickWindow* BreakWindow::makeBreakWindow(QScreen* screen, BreakType breakType)
     else
         flags |= Qt::Tool;
     window->setFlags(flags);
-    // What the window list and Velto's GNOME Shell extension know it by.
+    // What the window list and Velto's GNOME Shell extension know it by, so the same in every language.
     window->setTitle(u"Velto Break"_s);
     if (QGuiApplication::platformName().startsWith(u"wayland"_s)) {
         QSurfaceFormat format = window->format();

@@ -54,7 +54,7 @@ ColumnLayout {
             spacing: 8
             Label {
                 Layout.alignment: Qt.AlignHCenter
-                text: "About"
+                text: qsTranslate("SettingsView", "About")
                 font.pixelSize: 20
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
@@ -64,7 +64,7 @@ ColumnLayout {
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 color: Theme.secondaryText
-                text: "Velto is a small menu bar companion for sustainable focus and breaks."
+                text: qsTr("Velto is a small menu bar companion for sustainable focus and breaks.")
             }
         }
     }
@@ -73,14 +73,15 @@ ColumnLayout {
         ItemDelegate {
             objectName: "website"
             Layout.fillWidth: true
-            Accessible.name: "Website " + pane.paneModel.websiteDisplayName
+            //: Spoken name of the website link; %1 is the site's address without "https://".
+            Accessible.name: qsTr("Website %1").arg(pane.paneModel.websiteDisplayName)
             onClicked: Qt.openUrlExternally(pane.paneModel.websiteUrl)
             background: null
             padding: 0
             topPadding: 3
             bottomPadding: 3
             contentItem: RowLayout {
-                Label { text: "Website" }
+                Label { text: qsTr("Website") }
                 Item { Layout.fillWidth: true }
                 Label { text: pane.paneModel.websiteDisplayName; color: Theme.accent }
                 SymbolIcon { name: "arrow.up.right.square"; size: 15; color: Theme.secondaryText }
@@ -89,14 +90,15 @@ ColumnLayout {
         ItemDelegate {
             objectName: "feedback"
             Layout.fillWidth: true
-            Accessible.name: "Send Feedback to " + pane.paneModel.contactAddress
+            //: Spoken name of the feedback link; %1 is an e-mail address.
+            Accessible.name: qsTr("Send Feedback to %1").arg(pane.paneModel.contactAddress)
             onClicked: Qt.openUrlExternally(pane.paneModel.feedbackUrl)
             background: null
             padding: 0
             topPadding: 3
             bottomPadding: 3
             contentItem: RowLayout {
-                Label { text: "Send Feedback" }
+                Label { text: qsTr("Send Feedback") }
                 Item { Layout.fillWidth: true }
                 Label { text: pane.paneModel.contactAddress; color: Theme.accent }
                 SymbolIcon { name: "envelope"; size: 15; color: Theme.secondaryText }
@@ -104,7 +106,8 @@ ColumnLayout {
         }
         RowLayout {
             Layout.fillWidth: true
-            Label { text: "Version" }
+            //: Velto's version number follows.
+            Label { text: qsTr("Version") }
             Item { Layout.fillWidth: true }
             TextEdit {
                 objectName: "versionText"
@@ -115,7 +118,8 @@ ColumnLayout {
                 selectionColor: Theme.accent
                 selectedTextColor: Theme.accentText
                 font: versionFont.font
-                Accessible.name: "Version " + text
+                //: Spoken name of the version number; %1 is the number, like 1.4 (27).
+                Accessible.name: qsTr("Version %1").arg(text)
             }
             Label { id: versionFont; visible: false }
         }
@@ -139,7 +143,7 @@ ColumnLayout {
                     Layout.fillWidth: true
                     spacing: 4
                     Label {
-                        text: "A newer build is available"
+                        text: qsTr("A newer build is available")
                         font.pixelSize: 15
                         font.weight: Font.DemiBold
                     }
@@ -157,7 +161,8 @@ ColumnLayout {
                 objectName: "reviewUpdate"
                 Layout.leftMargin: 22
                 flat: true
-                text: "Review update"
+                //: A button: look at the newer version before installing it ("Review" is a verb).
+                text: qsTr("Review update")
                 font.pixelSize: 13
                 font.weight: Font.Medium
                 palette.buttonText: Theme.accent
@@ -167,7 +172,7 @@ ColumnLayout {
         }
         TintedButton {
             objectName: "checkForUpdates"
-            text: "Check for Updates…"
+            text: qsTr("Check for Updates…")
             Accessible.name: text
             onClicked: pane.paneModel.checkForUpdates()
         }

@@ -1,7 +1,7 @@
 #include "AddFocusAppModel.h"
 
-#include "detection/ApplicationInfoProviding.h"
 #include "SettingsPaneModel.h"
+#include "detection/ApplicationInfoProviding.h"
 #include "detection/WorkspaceProviding.h"
 #include "settings/SettingsManager.h"
 
@@ -107,7 +107,8 @@ QVariantList AddFocusAppModel::filteredApps() const
 {
     QVariantList list;
     for (const RunningApplication& application : filterApplications(m_runningApps, m_searchText, takenIdentifiers()))
-        list.append(QVariantMap{{u"name"_s, application.name.isEmpty() ? u"Unknown App"_s : application.name},
+        //: The name shown for a running application that has none.
+        list.append(QVariantMap{{u"name"_s, application.name.isEmpty() ? tr("Unknown App") : application.name},
                                 {u"bundleIdentifier"_s, application.bundleIdentifier},
                                 {u"hasIcon"_s, application.hasIcon},
                                 {u"iconSource"_s, SettingsPaneModel::iconSource(application.bundleIdentifier)}});
@@ -124,7 +125,7 @@ QStringList AddFocusAppModel::modeTitles()
 
 QString AddFocusAppModel::emptyText() const
 {
-    return m_searchText.isEmpty() ? u"No other apps are currently running"_s : u"No matching apps"_s;
+    return m_searchText.isEmpty() ? tr("No other apps are currently running") : tr("No matching apps");
 }
 
 void AddFocusAppModel::present()

@@ -47,14 +47,15 @@ Popup {
             Layout.bottomMargin: 8
             Label {
                 Layout.fillWidth: true
-                text: "Add Focus App"
+                text: qsTr("Add Focus App")
+                wrapMode: Text.WordWrap
                 font.weight: Font.DemiBold
                 font.pixelSize: 15
                 Accessible.role: Accessible.Heading
             }
             TintedButton {
                 objectName: "cancel"
-                text: "Cancel"
+                text: qsTr("Cancel")
                 Accessible.name: text
                 onClicked: sheet.close()
             }
@@ -72,9 +73,9 @@ Popup {
                 id: search
                 objectName: "search"
                 Layout.fillWidth: true
-                placeholderText: "Search apps…"
+                placeholderText: qsTr("Search apps…")
                 text: sheet.focusAppModel.searchText
-                Accessible.name: "Search apps"
+                Accessible.name: qsTr("Search apps")
                 onTextEdited: sheet.focusAppModel.searchText = text
                 Keys.onReturnPressed: sheet.addSelection()
                 Keys.onEnterPressed: sheet.addSelection()
@@ -116,7 +117,8 @@ Popup {
                 activeFocusOnTab: true
                 keyNavigationEnabled: false
                 Accessible.role: Accessible.List
-                Accessible.name: "Running apps"
+                //: Spoken name of the list of applications running now.
+                Accessible.name: qsTr("Running apps")
                 // The selection is the model's, by identity: nothing is chosen until the user chooses.
                 function moveSelection(step) {
                     const apps = sheet.focusAppModel.filteredApps;
@@ -201,15 +203,19 @@ Popup {
                 Layout.fillWidth: true
                 Label {
                     Layout.fillWidth: true
-                    text: "Pause breaks"
+                    //: Followed by a picker of when the chosen app holds breaks back ("When in Foreground"…).
+                    text: qsTr("Pause breaks")
+                    wrapMode: Text.WordWrap
                     font.pixelSize: Theme.rowSize
                 }
                 ComboBox {
                     objectName: "sheetMode"
-                    Layout.preferredWidth: 240
+                    Layout.preferredWidth: Math.max(240, implicitWidth)
+                    Layout.minimumWidth: implicitWidth
+                    implicitContentWidthPolicy: ComboBox.WidestText
                     model: sheet.focusAppModel.modeTitles
                     currentIndex: sheet.focusAppModel.selectedMode
-                    Accessible.name: "Pause breaks"
+                    Accessible.name: qsTr("Pause breaks")
                     onActivated: index => {
                         sheet.focusAppModel.selectedMode = index;
                         currentIndex = Qt.binding(() => sheet.focusAppModel.selectedMode);
@@ -221,7 +227,7 @@ Popup {
                 Item { Layout.fillWidth: true }
                 TintedButton {
                     objectName: "addSelected"
-                    text: "Add App"
+                    text: qsTr("Add App")
                     highlighted: true
                     enabled: sheet.focusAppModel.canAdd
                     Accessible.name: text

@@ -16,16 +16,18 @@ ColumnLayout {
 
     PaneHeader {
         symbol: "paintbrush"
-        title: "Appearance"
-        subtitle: "Personalize your break screen to make every pause feel intentional."
+        title: qsTranslate("SettingsView", "Appearance")
+        subtitle: qsTr("Personalize your break screen to make every pause feel intentional.")
     }
 
     FormSection {
-        title: "Background"
+        //: The break screen's background.
+        title: qsTr("Background")
         PickerRow {
             objectName: "backgroundType"
             paneModel: pane.paneModel
-            text: "Style"
+            //: The kind of background: paper, gradient…
+            text: qsTr("Style")
             picker: SettingsPaneModel.BackgroundType
             pickerWidth: 180
         }
@@ -36,7 +38,8 @@ ColumnLayout {
             spacing: 12
             Label {
                 Layout.fillWidth: true
-                text: "Theme"
+                //: The colours of the gradient background.
+                text: qsTr("Theme")
             }
             ComboBox {
                 id: themeBox
@@ -44,7 +47,7 @@ ColumnLayout {
                 Layout.preferredWidth: 180
                 model: pane.paneModel.optionLabels(SettingsPaneModel.GradientTheme)
                 currentIndex: pane.paneModel.revision >= 0 ? pane.paneModel.selection(SettingsPaneModel.GradientTheme) : -1
-                Accessible.name: "Theme"
+                Accessible.name: qsTr("Theme")
                 onActivated: index => {
                     pane.paneModel.choose(SettingsPaneModel.GradientTheme, index);
                     currentIndex = Qt.binding(() => pane.paneModel.revision >= 0 ? pane.paneModel.selection(SettingsPaneModel.GradientTheme) : -1);
@@ -80,19 +83,20 @@ ColumnLayout {
         RowLayout {
             Layout.fillWidth: true
             spacing: 12
-            Label { text: "Dim level" }
+            //: How much the break screen's background is darkened.
+            Label { text: qsTr("Dim level") }
             Slider {
                 objectName: "overlayOpacity"
                 Layout.fillWidth: true
                 from: 0.5
                 to: 1.0
                 value: pane.appearance.overlayOpacity || 0.5
-                Accessible.name: "Dim level"
+                Accessible.name: qsTr("Dim level")
                 onMoved: pane.paneModel.setAppearanceField("overlayOpacity", value)
             }
             Label {
                 objectName: "dimLevelText"
-                Layout.preferredWidth: 40
+                Layout.preferredWidth: Math.max(40, implicitWidth)
                 horizontalAlignment: Text.AlignRight
                 text: pane.paneModel.dimLevelText
             }
@@ -100,11 +104,13 @@ ColumnLayout {
     }
 
     FormSection {
-        title: "Display"
+        //: Which screens show the break.
+        title: qsTr("Display")
         PickerRow {
             objectName: "screenDisplayMode"
             paneModel: pane.paneModel
-            text: "Show break on"
+            //: Followed by a picker: all displays or the primary display only.
+            text: qsTr("Show break on")
             picker: SettingsPaneModel.ScreenDisplayMode
             pickerWidth: 180
         }
@@ -119,9 +125,10 @@ ColumnLayout {
     }
 
     FormSection {
-        title: "Messages"
+        //: The lines the break screen shows, one picked at random.
+        title: qsTr("Messages")
         Label {
-            text: "Your messages:"
+            text: qsTr("Your messages:")
             color: Theme.secondaryText
             font.pixelSize: Theme.captionSize
         }
@@ -137,16 +144,18 @@ ColumnLayout {
                 TextField {
                     objectName: "message"
                     Layout.fillWidth: true
-                    placeholderText: "Message"
+                    placeholderText: qsTr("Message")
                     text: messageRow.index < pane.messages.length ? pane.messages[messageRow.index] : ""
-                    Accessible.name: "Message " + (messageRow.index + 1)
+                    //: Spoken name of a message field; %1 is its position in the list, from 1.
+                    Accessible.name: qsTr("Message %1").arg(messageRow.index + 1)
                     onTextEdited: pane.paneModel.setMessage(messageRow.index, text)
                 }
                 ToolButton {
                     objectName: "removeMessage"
                     flat: true
                     enabled: pane.paneModel.canRemoveMessages
-                    Accessible.name: "Remove message " + (messageRow.index + 1)
+                    //: Spoken name of the button that removes a message; %1 is its position in the list, from 1.
+                    Accessible.name: qsTr("Remove message %1").arg(messageRow.index + 1)
                     onClicked: pane.paneModel.removeMessage(messageRow.index)
                     contentItem: SymbolIcon {
                         name: "minus.circle"
@@ -158,12 +167,13 @@ ColumnLayout {
         }
         Button {
             objectName: "addMessage"
-            Accessible.name: "Add"
+            //: Adds a message to the list.
+            Accessible.name: qsTr("Add")
             onClicked: pane.paneModel.addMessage()
             contentItem: RowLayout {
                 spacing: 6
                 SymbolIcon { name: "plus"; size: 14; color: Theme.accent }
-                Label { text: "Add" }
+                Label { text: qsTr("Add") }
             }
         }
     }

@@ -35,10 +35,13 @@ RowLayout {
     ComboBox {
         id: mode
         objectName: "focusAppMode"
-        Layout.preferredWidth: 190
+        Layout.preferredWidth: Math.max(190, implicitWidth)
+        Layout.minimumWidth: implicitWidth
+        implicitContentWidthPolicy: ComboBox.WidestText
         model: row.paneModel.optionLabels(SettingsPaneModel.FocusAppRowMode)
         currentIndex: row.app.mode !== undefined ? row.app.mode : -1
-        Accessible.name: "Pause breaks for " + (row.app.name || "")
+        //: Spoken name of a focus app's picker; %1 is the app's name.
+        Accessible.name: qsTr("Pause breaks for %1").arg(row.app.name || "")
         onActivated: index => {
             row.modeChosen(index);
             currentIndex = Qt.binding(() => row.app.mode !== undefined ? row.app.mode : -1);
@@ -47,7 +50,8 @@ RowLayout {
     ToolButton {
         objectName: "removeFocusApp"
         flat: true
-        Accessible.name: "Remove " + (row.app.name || "")
+        //: Spoken name of the button that removes a focus app; %1 is the app's name.
+        Accessible.name: qsTr("Remove %1").arg(row.app.name || "")
         onClicked: row.deleted()
         contentItem: SymbolIcon { name: "minus.circle.fill"; size: 18; color: Theme.red }
     }

@@ -13,37 +13,39 @@ ColumnLayout {
 
     PaneHeader {
         symbol: "gear"
-        title: "General"
-        subtitle: "Control the core behavior of Velto and how it fits into your workflow."
+        // The sidebar's name for the pane, translated once.
+        title: qsTranslate("SettingsView", "General")
+        subtitle: qsTr("Control the core behavior of Velto and how it fits into your workflow.")
     }
 
     FormSection {
-        title: "App Settings"
+        title: qsTr("App Settings")
         SwitchRow {
             objectName: "isEnabled"
-            text: "Enable Velto"
+            text: qsTr("Enable Velto")
             value: pane.paneModel.isEnabled
             onEdited: on => pane.paneModel.isEnabled = on
         }
         SwitchRow {
             objectName: "showTimerInMenuBar"
-            text: "Show timer in menu bar"
+            //: The menu bar is the panel that holds Velto's tray icon.
+            text: qsTr("Show timer in menu bar")
             value: pane.paneModel.showTimerInMenuBar
             onEdited: on => pane.paneModel.showTimerInMenuBar = on
         }
         SwitchRow {
             objectName: "launchAtLogin"
-            text: "Launch at login"
+            text: qsTr("Launch at login")
             value: pane.paneModel.launchAtLogin
             onEdited: on => pane.paneModel.launchAtLogin = on
         }
     }
 
     FormSection {
-        title: "Schedule"
+        title: qsTr("Schedule")
         SwitchRow {
             objectName: "useOfficeHours"
-            text: "Use Office Hours"
+            text: qsTr("Use Office Hours")
             value: pane.schedule.isEnabled === true
             onEdited: on => pane.paneModel.setScheduleField("isEnabled", on)
         }
@@ -54,19 +56,35 @@ ColumnLayout {
             spacing: 3
             Label {
                 Layout.fillWidth: true
-                text: "Active days"
+                text: qsTr("Active days")
+                wrapMode: Text.WordWrap
             }
             Repeater {
-                model: [{ day: 1, title: "Sun" }, { day: 2, title: "Mon" }, { day: 3, title: "Tue" },
-                        { day: 4, title: "Wed" }, { day: 5, title: "Thu" }, { day: 6, title: "Fri" },
-                        { day: 7, title: "Sat" }]
+                // The short day names used elsewhere in Velto, translated once.
+                model: [
+                    //: Sunday, shortened for a small toggle of the office-hours days.
+                    { day: 1, title: qsTranslate("Weekday", "Sun") },
+                    //: Monday, shortened for a small toggle of the office-hours days.
+                    { day: 2, title: qsTranslate("Weekday", "Mon") },
+                    //: Tuesday, shortened for a small toggle of the office-hours days.
+                    { day: 3, title: qsTranslate("Weekday", "Tue") },
+                    //: Wednesday, shortened for a small toggle of the office-hours days.
+                    { day: 4, title: qsTranslate("Weekday", "Wed") },
+                    //: Thursday, shortened for a small toggle of the office-hours days.
+                    { day: 5, title: qsTranslate("Weekday", "Thu") },
+                    //: Friday, shortened for a small toggle of the office-hours days.
+                    { day: 6, title: qsTranslate("Weekday", "Fri") },
+                    //: Saturday, shortened for a small toggle of the office-hours days.
+                    { day: 7, title: qsTranslate("Weekday", "Sat") }
+                ]
                 delegate: TintedButton {
                     required property var modelData
                     text: modelData.title
                     checkable: true
                     checked: (pane.schedule.activeDays || []).includes(modelData.day)
                     highlighted: checked
-                    implicitWidth: 40
+                    // At least 40 wide, wider for a day name that needs it.
+                    implicitWidth: Math.max(40, implicitContentWidth + leftPadding + rightPadding)
                     leftPadding: 2
                     rightPadding: 2
                     font.pixelSize: 11
@@ -84,14 +102,16 @@ ColumnLayout {
             spacing: 16
             TimeField {
                 objectName: "startTime"
-                text: "Start"
+                //: The time office hours begin.
+                text: qsTr("Start")
                 hour: pane.paneModel.revision >= 0 ? pane.paneModel.shownTime(true).hour : 0
                 minute: pane.paneModel.revision >= 0 ? pane.paneModel.shownTime(true).minute : 0
                 onEdited: (hour, minute) => pane.paneModel.setTime(true, hour, minute)
             }
             TimeField {
                 objectName: "endTime"
-                text: "End"
+                //: The time office hours end.
+                text: qsTr("End")
                 hour: pane.paneModel.revision >= 0 ? pane.paneModel.shownTime(false).hour : 0
                 minute: pane.paneModel.revision >= 0 ? pane.paneModel.shownTime(false).minute : 0
                 onEdited: (hour, minute) => pane.paneModel.setTime(false, hour, minute)
@@ -103,7 +123,7 @@ ColumnLayout {
     FormSection {
         Button {
             objectName: "resetToDefaults"
-            text: "Reset to Defaults"
+            text: qsTr("Reset to Defaults")
             flat: true
             palette.buttonText: Theme.red
             Accessible.name: text

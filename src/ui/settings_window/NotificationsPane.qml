@@ -13,15 +13,16 @@ ColumnLayout {
 
     PaneHeader {
         symbol: "bell"
-        title: "Notifications"
-        subtitle: "Choose how Velto keeps you informed without getting in the way."
+        title: qsTranslate("SettingsView", "Notifications")
+        subtitle: qsTr("Choose how Velto keeps you informed without getting in the way.")
     }
 
     FormSection {
-        title: "Heads-Up"
+        //: A section title: being told a little before a break comes.
+        title: qsTr("Heads-Up")
         SwitchRow {
             objectName: "showPreBreakNotification"
-            text: "Notify before breaks"
+            text: qsTr("Notify before breaks")
             value: pane.notifications.showPreBreakNotification === true
             onEdited: on => pane.paneModel.setNotificationField("showPreBreakNotification", on)
         }
@@ -29,37 +30,38 @@ ColumnLayout {
             objectName: "preBreakNotificationTime"
             visible: pane.notifications.showPreBreakNotification === true
             paneModel: pane.paneModel
-            text: "Show notification"
+            //: Followed by a picker of lead times ("1 min before").
+            text: qsTr("Show notification")
             picker: SettingsPaneModel.PreBreakNotification
             pickerWidth: 140
         }
     }
 
     FormSection {
-        title: "Sound"
+        title: qsTr("Sound")
         SwitchRow {
             objectName: "playSoundOnBreakStart"
-            text: "Chime when break starts"
+            text: qsTr("Chime when break starts")
             value: pane.notifications.playSoundOnBreakStart === true
             onEdited: on => pane.paneModel.setNotificationField("playSoundOnBreakStart", on)
         }
         SwitchRow {
             objectName: "playSoundOnBreakEnd"
-            text: "Chime when break ends"
+            text: qsTr("Chime when break ends")
             value: pane.notifications.playSoundOnBreakEnd === true
             onEdited: on => pane.paneModel.setNotificationField("playSoundOnBreakEnd", on)
         }
     }
 
     FormSection {
-        title: "Volume"
+        title: qsTr("Volume")
         Slider {
             objectName: "soundVolume"
             Layout.fillWidth: true
             from: 0
             to: 1
             value: pane.notifications.soundVolume || 0
-            Accessible.name: "Chime volume"
+            Accessible.name: qsTr("Chime volume")
             onMoved: pane.paneModel.setNotificationField("soundVolume", value)
         }
     }

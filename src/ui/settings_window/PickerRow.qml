@@ -26,7 +26,10 @@ RowLayout {
     ComboBox {
         id: box
         objectName: "picker"
-        Layout.preferredWidth: row.pickerWidth
+        // As wide as the longest option when that needs more room than the row asks for.
+        Layout.preferredWidth: Math.max(row.pickerWidth, implicitWidth)
+        Layout.minimumWidth: implicitWidth
+        implicitContentWidthPolicy: ComboBox.WidestText
         model: row.paneModel.optionLabels(row.picker)
         currentIndex: row.paneModel.revision >= 0 ? row.paneModel.selection(row.picker) : -1
         displayText: currentIndex < 0 ? "" : currentText

@@ -31,11 +31,12 @@ const QList<int> noticeMinutes = {1, 2, 3, 5};
 const QList<BackgroundType> offeredBackgrounds = {BackgroundType::PaperLight, BackgroundType::PaperDark,
                                                   BackgroundType::Gradient};
 
-QStringList labelled(const QList<int>& options, const QString& suffix)
+template <typename Label>
+QStringList labelled(const QList<int>& options, Label label)
 {
     QStringList labels;
     for (int option : options)
-        labels.append(QString::number(option) + suffix);
+        labels.append(label(option));
     return labels;
 }
 
@@ -243,9 +244,8 @@ QString SettingsPaneModel::dimLevelText() const
     if (!m_settings)
         return {};
     const double percent = std::trunc(m_settings->breakAppearance().overlayOpacity * 100);
-    if (!std::isfinite(percent))
-        return u"%"_s;
-    return QString::number(qint64(percent)) + u'%';
+    //: The dim level as a percentage beside its slider; %1 is a whole number from 50 to 100.
+    return tr("%1%").arg(std::isfinite(percent) ? QString::number(qint64(percent)) : QString());
 }
 
 QString SettingsPaneModel::displayModeExplanation() const
@@ -253,8 +253,8 @@ QString SettingsPaneModel::displayModeExplanation() const
     if (!m_settings)
         return {};
     return m_settings->breakAppearance().screenDisplayMode == ScreenDisplayMode::AllScreens
-               ? u"Show break on all connected displays"_s
-               : u"Show break only on your primary display"_s;
+               ? tr("Show break on all connected displays")
+               : tr("Show break only on your primary display");
 }
 
 bool SettingsPaneModel::canRemoveMessages() const
@@ -264,9 +264,11 @@ bool SettingsPaneModel::canRemoveMessages() const
 
 QString SettingsPaneModel::updateNudgeText() const
 {
+    //: Under "A newer build is available" when the new version's number is not known.
     if (m_updateVersionHint.isEmpty())
-        return u"Install it when you have a moment."_s;
-    return u"Version "_s + m_updateVersionHint + u" is ready when you are."_s;
+        return tr("Install it when you have a moment.");
+    //: Under "A newer build is available"; %1 is the new version's number, like 1.5.
+    return tr("Version %1 is ready when you are.").arg(m_updateVersionHint);
 }
 
 QString SettingsPaneModel::versionText() const
@@ -334,6 +336,8 @@ void SettingsPaneModel::enableGnomeExtension()
 
 QStringList SettingsPaneModel::optionLabels(Picker picker) const
 {
+    //: An option of a picker of durations: a number of minutes, abbreviated.
+    const auto minutes = [](int count) { return tr("%n min", nullptr, count); };
     auto titles = []<typename E>(const QList<E>& cases) {
         QStringList labels;
         for (E value : cases)
@@ -342,30 +346,31 @@ QStringList SettingsPaneModel::optionLabels(Picker picker) const
     };
     switch (picker) {
     case Picker::WorkInterval:
-        return labelled(workIntervalMinutes, u" min"_s);
-    case Picker::ShortBreakDuration:
-        return labelled(shortBreakSeconds, u" sec"_s);
+        return labelled(workIntervalMinutes, minutes);
     case Picker::LongBreakDuration:
-        return labelled(longBreakMinutes, u" min"_s);
-    case Picker::LongBreakFrequency: {
-        QStringList labels;
-        for (int frequency : longBreakFrequencies)
-            labels.append(u"Every %1 short breaks"_s.arg(frequency));
-        return labels;
-    }
+        return labelled(longBreakMinutes, minutes);
+    case Picker::ShortBreakDuration:
+        //: An option of the short-break duration picker: a number of seconds, abbreviated.
+        return labelled(shortBreakSeconds, [](int seconds) { return tr("%n sec", nullptr, seconds); });
+    case Picker::LongBreakFrequency:
+        return labelled(longBreakFrequencies, [](int frequency) {
+            //: An option of the long-break frequency picker: a long break takes the place of every n-th short one.
+            return tr("Every %n short breaks", nullptr, frequency);
+        });
     case Picker::SkipDifficulty:
         return titles(allCases<velto::SkipDifficulty>());
     case Picker::VideoDetectionMode:
         return titles(allCases<velto::VideoDetectionMode>());
     case Picker::IdleThreshold:
-        return labelled(idleMinutes, u" min"_s);
-    case Picker::Cooldown: {
-        QStringList labels = labelled(cooldownMinutes, u" min"_s);
-        labels[0] = u"No delay"_s;
-        return labels;
-    }
+        return labelled(idleMinutes, minutes);
+    case Picker::Cooldown:
+        return labelled(cooldownMinutes, [&minutes](int count) {
+            //: The first option of the cooldown picker: the work timer runs again as soon as the activity ends.
+            return count == 0 ? tr("No delay") : minutes(count);
+        });
     case Picker::PreBreakNotification:
-        return labelled(noticeMinutes, u" min before"_s);
+        //: An option of the picker of how early the card tells of the next break: minutes, abbreviated.
+        return labelled(noticeMinutes, [](int count) { return tr("%n min before", nullptr, count); });
     case Picker::BackgroundType:
         return titles(offeredBackgrounds);
     case Picker::GradientTheme:

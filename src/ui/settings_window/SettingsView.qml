@@ -13,16 +13,20 @@ ApplicationWindow {
     property int detailLayoutRemountPass: 0
     property bool sidebarVisible: true
     readonly property var tabs: [
-        { title: "General", symbol: "gear" },
-        { title: "Breaks", symbol: "clock" },
-        { title: "Smart Pause", symbol: "pause.circle" },
-        { title: "Notifications", symbol: "bell" },
-        { title: "Appearance", symbol: "paintbrush" },
-        { title: "About", symbol: "info.circle" }
+        //: A settings category in the window's sidebar, and the title of its pane.
+        { title: qsTr("General"), symbol: "gear" },
+        //: A settings category (plural noun: the breaks from work).
+        { title: qsTr("Breaks"), symbol: "clock" },
+        //: A settings category: the work timer pauses by itself during calls, videos, games and the like.
+        { title: qsTr("Smart Pause"), symbol: "pause.circle" },
+        { title: qsTr("Notifications"), symbol: "bell" },
+        { title: qsTr("Appearance"), symbol: "paintbrush" },
+        { title: qsTr("About"), symbol: "info.circle" }
     ]
     readonly property alias detailPane: paneLoader.item
 
-    title: "Velto Settings"
+    //: The window title.
+    title: qsTr("Velto Settings")
     width: 740
     height: 580
     minimumWidth: 740
@@ -64,16 +68,17 @@ ApplicationWindow {
             anchors.rightMargin: 8
             ToolButton {
                 objectName: "sidebarToggle"
-                Accessible.name: "Sidebar"
-                Accessible.description: "Show or hide the settings categories list"
-                ToolTip.text: "Show or hide the settings categories list"
+                //: A toolbar button that shows or hides the list of settings categories.
+                Accessible.name: qsTr("Sidebar")
+                Accessible.description: qsTr("Show or hide the settings categories list")
+                ToolTip.text: qsTr("Show or hide the settings categories list")
                 ToolTip.visible: hovered
                 ToolTip.delay: 600
                 onClicked: window.sidebarVisible = !window.sidebarVisible
                 contentItem: RowLayout {
                     spacing: 6
                     SymbolIcon { name: "sidebar.left"; size: 18; color: Theme.text }
-                    Label { text: "Sidebar" }
+                    Label { text: qsTr("Sidebar") }
                 }
             }
             Label {
@@ -111,7 +116,7 @@ ApplicationWindow {
                 text: qsTr("Your changes could not be saved. They apply until Velto quits.")
                 color: Theme.secondaryText
                 font.pixelSize: Theme.footnoteSize + 1
-                elide: Text.ElideRight
+                wrapMode: Text.WordWrap
                 Accessible.role: Accessible.AlertMessage
             }
         }
@@ -142,7 +147,7 @@ ApplicationWindow {
                 keyNavigationEnabled: true
                 activeFocusOnTab: true
                 Accessible.role: Accessible.List
-                Accessible.name: "Settings categories"
+                Accessible.name: qsTr("Settings categories")
                 Keys.onUpPressed: window.selectedTab = Math.max(0, window.selectedTab - 1)
                 Keys.onDownPressed: window.selectedTab = Math.min(window.tabs.length - 1, window.selectedTab + 1)
 
@@ -171,18 +176,25 @@ ApplicationWindow {
                             size: 17
                             color: tabRow.selected ? Theme.accentText : Theme.accent
                         }
+                        // A long category name is cut with an ellipsis rather than pushing the dot out.
                         Label {
+                            Layout.fillWidth: true
+                            // Rounded up: a layout's whole pixels would cut the last fraction of a letter.
+                            Layout.maximumWidth: Math.ceil(implicitWidth)
                             text: tabRow.modelData.title
                             color: tabRow.selected ? Theme.accentText : Theme.text
+                            elide: Text.ElideRight
                         }
                         SymbolIcon {
                             objectName: "updateDot"
+                            Layout.minimumWidth: size
                             visible: tabRow.index === 5 && window.paneModel.updateAvailable
                             name: "circle.fill"
                             size: 7
                             color: tabRow.selected ? Theme.accentText : Theme.accent
                             Accessible.role: Accessible.StaticText
-                            Accessible.name: "Update available"
+                            //: Spoken for the dot beside About when a newer build exists.
+                            Accessible.name: qsTr("Update available")
                         }
                         Item { Layout.fillWidth: true }
                     }

@@ -16,8 +16,8 @@ ColumnLayout {
 
     PaneHeader {
         symbol: "pause.circle"
-        title: "Smart Pause"
-        subtitle: "Let Velto adapt to what you're doing and pause breaks when it matters."
+        title: qsTranslate("SettingsView", "Smart Pause")
+        subtitle: qsTr("Let Velto adapt to what you're doing and pause breaks when it matters.")
     }
 
     // Shown only where this desktop hides something the switches below rely on.
@@ -87,19 +87,19 @@ ColumnLayout {
     }
 
     FormSection {
-        title: "Activity Detection"
+        title: qsTr("Activity Detection")
         SwitchRow {
             objectName: "detectMeetings"
-            text: "Pause during meetings or calls"
+            text: qsTr("Pause during meetings or calls")
             value: pane.smartPause.detectMeetings === true
             onEdited: on => pane.paneModel.setSmartPauseField("detectMeetings", on)
         }
         Footnote {
-            text: "Pauses when you are likely on a call or in a meeting—not while you are only browsing the web."
+            text: qsTr("Pauses when you are likely on a call or in a meeting—not while you are only browsing the web.")
         }
         SwitchRow {
             objectName: "detectVideoPlayback"
-            text: "Pause during video playback"
+            text: qsTr("Pause during video playback")
             value: pane.smartPause.detectVideoPlayback === true
             onEdited: on => pane.paneModel.setSmartPauseField("detectVideoPlayback", on)
         }
@@ -107,33 +107,34 @@ ColumnLayout {
             objectName: "videoDetectionMode"
             visible: pane.smartPause.detectVideoPlayback === true
             paneModel: pane.paneModel
-            text: "Video detection mode"
+            text: qsTr("Video detection mode")
             picker: SettingsPaneModel.VideoDetectionMode
             pickerWidth: 210
         }
         Footnote {
             visible: pane.smartPause.detectVideoPlayback === true
-            text: "Frontmost only checks the active app. Include background also pauses when a supported player is playing behind another window."
+            //: "Frontmost only" and "Include background" name the choices of the video detection mode above.
+            text: qsTr("Frontmost only checks the active app. Include background also pauses when a supported player is playing behind another window.")
         }
         SwitchRow {
             objectName: "detectScreenRecording"
-            text: "Pause during screen recording"
+            text: qsTr("Pause during screen recording")
             value: pane.smartPause.detectScreenRecording === true
             onEdited: on => pane.paneModel.setSmartPauseField("detectScreenRecording", on)
         }
         SwitchRow {
             objectName: "detectFullscreenGaming"
-            text: "Pause during fullscreen gaming"
+            text: qsTr("Pause during fullscreen gaming")
             value: pane.smartPause.detectFullscreenGaming === true
             onEdited: on => pane.paneModel.setSmartPauseField("detectFullscreenGaming", on)
         }
     }
 
     FormSection {
-        title: "Idle Detection"
+        title: qsTr("Idle Detection")
         SwitchRow {
             objectName: "detectIdleTime"
-            text: "Detect idle time"
+            text: qsTr("Detect idle time")
             value: pane.smartPause.detectIdleTime === true
             onEdited: on => pane.paneModel.setSmartPauseField("detectIdleTime", on)
         }
@@ -141,32 +142,35 @@ ColumnLayout {
             objectName: "idleThreshold"
             visible: pane.smartPause.detectIdleTime === true
             paneModel: pane.paneModel
-            text: "Reset timer after idle for"
+            //: Followed by a picker of minutes ("5 min"): the work timer starts over after this long without input.
+            text: qsTr("Reset timer after idle for")
             picker: SettingsPaneModel.IdleThreshold
         }
     }
 
     FormSection {
-        title: "Cooldown"
+        //: How long Smart Pause waits after an activity ends before the work timer runs again.
+        title: qsTr("Cooldown")
         PickerRow {
             objectName: "cooldown"
             paneModel: pane.paneModel
-            text: "Delay after activity ends"
+            text: qsTr("Delay after activity ends")
             picker: SettingsPaneModel.Cooldown
         }
         Footnote {
-            text: "Waits this long after a Smart Pause reason clears before your work timer starts counting down again."
+            text: qsTr("Waits this long after a Smart Pause reason clears before your work timer starts counting down again.")
         }
     }
 
     FormSection {
-        title: "Focus Apps"
+        //: Apps that hold breaks back while you use them.
+        title: qsTr("Focus Apps")
         Label {
             Layout.fillWidth: true
             wrapMode: Text.WordWrap
             color: Theme.secondaryText
             font.pixelSize: Theme.captionSize
-            text: "Pause breaks when a specific app is active or open. Each app can use foreground only, foreground while fullscreen, or whenever it is running."
+            text: qsTr("Pause breaks when a specific app is active or open. Each app can use foreground only, foreground while fullscreen, or whenever it is running.")
         }
         Label {
             objectName: "noFocusApps"
@@ -177,7 +181,7 @@ ColumnLayout {
             horizontalAlignment: Text.AlignHCenter
             color: Theme.secondaryText
             font.pixelSize: Theme.captionSize
-            text: "No focus apps configured"
+            text: qsTr("No focus apps configured")
         }
         Repeater {
             objectName: "focusAppRows"
@@ -193,12 +197,12 @@ ColumnLayout {
         }
         Button {
             objectName: "addApp"
-            Accessible.name: "Add App…"
+            Accessible.name: qsTr("Add App…")
             onClicked: sheet.open()
             contentItem: RowLayout {
                 spacing: 6
                 SymbolIcon { name: "plus.circle"; size: 16; color: Theme.accent }
-                Label { text: "Add App…" }
+                Label { text: qsTr("Add App…") }
             }
         }
     }

@@ -23,7 +23,8 @@ RowLayout {
         value: field.hour
         Layout.preferredWidth: 66
         textFromValue: (value, locale) => String(value).padStart(2, "0")
-        Accessible.name: field.text + " hour"
+        //: Spoken name of the hour box of a time; %1 is the time's label, Start or End.
+        Accessible.name: qsTr("%1 hour").arg(field.text)
         onValueModified: {
             field.edited(value, minutes.value);
             value = Qt.binding(() => field.hour);
@@ -39,7 +40,8 @@ RowLayout {
         value: field.minute
         Layout.preferredWidth: 66
         textFromValue: (value, locale) => String(value).padStart(2, "0")
-        Accessible.name: field.text + " minute"
+        //: Spoken name of the minute box of a time; %1 is the time's label, Start or End.
+        Accessible.name: qsTr("%1 minute").arg(field.text)
         onValueModified: {
             field.edited(hours.value, value);
             value = Qt.binding(() => field.minute);

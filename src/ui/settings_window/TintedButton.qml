@@ -11,6 +11,10 @@ Button {
     topPadding: 5
     bottomPadding: 5
     opacity: enabled ? 1 : 0.45
+    // A label cut short by a narrow row is shown whole on hover.
+    ToolTip.text: text
+    ToolTip.visible: hovered && contentItem.truncated
+    ToolTip.delay: 600
 
     contentItem: Label {
         text: button.text

@@ -1,8 +1,10 @@
 #include "InAppNotificationWindowPresenter.h"
 #include "OffscreenScreens.h"
 #include "PreBreakNotificationHostingView.h"
+#include "PseudoTranslator.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QParallelAnimationGroup>
@@ -11,6 +13,7 @@
 #include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -130,6 +133,41 @@ private Q_SLOTS:
         finish(rig.host()->runningAnimation());
         QCOMPARE(panel->geometry(), QRect(1936, 120, 420, 216));
         QCOMPARE(rig.card()->size(), QSizeF(420, 216));
+    }
+
+    // In a language with longer words the card's own labels are translated and still fit: the countdown's block
+    // holds its label and keeps clear of the sentence, the heading keeps clear of the close button, and the four
+    // buttons stay on the card.
+    void labelsAreInTheUsersLanguageAndFit()
+    {
+        PseudoTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        const auto uninstall = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+        Rig rig;
+        QQuickWindow* panel = rig.show();
+        QVERIFY(panel != nullptr);
+        finish(rig.host()->runningAnimation());
+        for (const char* name : {"upcomingLabel", "breakInLabel", "breakNowButton", "pauseOneMinuteButton",
+                                 "pauseThreeMinutesButton", "skipButton", "swipeHint", "dismissButton"}) {
+            QQuickItem* shown = item(panel, QLatin1String(name));
+            QVERIFY2(shown, name);
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(shown);
+            const QString text = shown->property("text").isValid() ? shown->property("text").toString()
+                                 : accessible                      ? accessible->text(QAccessible::Name)
+                                                                   : QString();
+            QVERIFY2(PseudoTranslator::isTranslated(text), name);
+        }
+
+        auto left = [](QQuickItem* target) { return target->mapToScene(QPointF()).x(); };
+        auto right = [](QQuickItem* target) { return target->mapToScene(QPointF(target->width(), 0)).x(); };
+        QQuickItem* breakIn = item(panel, u"breakInLabel"_s);
+        QQuickItem* countdown = item(panel, u"countdownBlock"_s);
+        QVERIFY(left(countdown) <= left(breakIn) && right(breakIn) <= right(countdown));
+        QVERIFY(right(item(panel, u"bodyText"_s)) <= left(countdown));
+        QVERIFY(right(countdown) <= panel->width() - 22);
+        QVERIFY(right(item(panel, u"upcomingLabel"_s)) <= left(item(panel, u"dismissButton"_s)));
+        for (const char* name : {"breakNowButton", "pauseOneMinuteButton", "pauseThreeMinutesButton", "skipButton"})
+            QVERIFY2(right(item(panel, QLatin1String(name))) <= panel->width() - 22, name);
     }
 
     void arrivesAndLeavesWithTheRightMotion_data()

@@ -4,6 +4,7 @@
 #include "BreakWindow.h"
 #include "DesktopPicture.h"
 #include "OffscreenScreens.h"
+#include "PseudoTranslator.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -14,6 +15,7 @@
 #include <QQuickImageProvider>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -215,6 +217,22 @@ private Q_SLOTS:
         QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(endBreak));
         QVERIFY(rig.breaks.state() != BreakState::OnBreak);
         QCOMPARE(rig.breaks.dailyBreakCount(), 1);
+    }
+
+    // Velto's own texts are in the user's language, the fallback message too.
+    void theBreakScreenIsInTheUsersLanguage()
+    {
+        PseudoTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        const auto uninstall = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+        Rig rig(true);
+        rig.appearance([](BreakAppearance& a) { a.customMessages.clear(); });
+        QQuickWindow* window = rig.showBreak();
+        QVERIFY(window);
+        for (int i = 0; i < 10; ++i)
+            rig.breaks.breakTick();
+        for (const char* name : {"captionText", "messageText", "skipButton", "endBreakButton"})
+            QVERIFY2(PseudoTranslator::isTranslated(find(window, name)->property("text").toString()), name);
     }
 
     // GNOME's Cantarell draws a narrow 1, as many interface fonts do; the countdown's digits still hold still.

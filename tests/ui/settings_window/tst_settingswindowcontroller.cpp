@@ -4,14 +4,17 @@
 #include "FakeGnomeExtension.h"
 #include "FakeScreenLock.h"
 #include "InMemoryUserDefaults.h"
+#include "PseudoTranslator.h"
 #include "SettingsPaneModel.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
 #include "detection/DetectionCoverage.h"
 #include "settings/SettingsManager.h"
 
+#include <QAccessible>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QScopeGuard>
 #include <QSet>
 #include <QTest>
 
@@ -66,6 +69,51 @@ void toggle(QObject* switchRow, bool on)
     QVERIFY(control);
     control->setProperty("checked", on);
     QVERIFY(QMetaObject::invokeMethod(control, "toggled"));
+}
+
+bool isA(const QObject* object, const char* className)
+{
+    for (const QMetaObject* meta = object->metaObject(); meta; meta = meta->superClass()) {
+        if (qstrcmp(meta->className(), className) == 0)
+            return true;
+    }
+    return false;
+}
+
+// Every visible text, placeholder and spoken name in the window went through the translator unless it is one of
+// the data shown, and no text is cut short or runs past its own item or the window's edge. A picker is checked as one:
+// its options are the model's, and it is at least as wide as the longest of them.
+void checkLanguage(QQuickWindow* window, const QStringList& data)
+{
+    std::function<void(QQuickItem*)> check = [&](QQuickItem* item) {
+        if (!item->isVisible() || QTest::currentTestFailed())
+            return;
+        QStringList texts{item->property("placeholderText").toString()};
+        if (QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(item))
+            texts.append(accessible->text(QAccessible::Name));
+        const bool isText = isA(item, "QQuickText");
+        if (isText)
+            texts.append(item->property("text").toString());
+        for (const QString& text : std::as_const(texts)) {
+            const bool wordy = std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetter(); });
+            QVERIFY2(!wordy || data.contains(text) || PseudoTranslator::isTranslated(text), qPrintable(text));
+        }
+        if (isText) {
+            const QString text = item->property("text").toString();
+            QVERIFY2(item->property("contentWidth").toReal() <= item->width() + 1, qPrintable(text));
+            QVERIFY2(!item->property("truncated").toBool(), qPrintable(text));
+            QVERIFY2(item->mapToScene(QPointF(item->width(), 0)).x() <= window->width() + 1, qPrintable(text));
+        }
+        if (isA(item, "QQuickComboBox")) {
+            QVERIFY2(item->width() + 1 >= item->implicitWidth(), qPrintable(texts.last()));
+            return;
+        }
+        for (QQuickItem* child : item->childItems())
+            check(child);
+    };
+    // A frame first, so that every layout has taken in its items' latest sizes.
+    window->grabWindow();
+    check(window->contentItem());
 }
 
 } // namespace
@@ -506,6 +554,50 @@ private Q_SLOTS:
             QVERIFY2(top >= below, name);
             below = top + toggle->height();
         }
+    }
+
+    // In a language with longer words, with every optional row shown.
+    void everyPaneIsInTheUsersLanguageAndItsTextsFit()
+    {
+        PseudoTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        const auto uninstall = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+        Fixture f;
+        f.lock.available = false;
+        Schedule schedule = f.settings.schedule();
+        schedule.isEnabled = true;
+        f.settings.setSchedule(schedule);
+        BreakConfiguration breaks = f.settings.breakConfiguration();
+        breaks.longBreakEnabled = true;
+        f.settings.setBreakConfiguration(breaks);
+        SmartPauseSettings smartPause = f.settings.smartPauseSettings();
+        smartPause.deepFocusApps = {DeepFocusApp{u"Text Editor"_s, u"org.gnome.TextEditor"_s, DeepFocusMode::WhenOpen}};
+        f.settings.setSmartPauseSettings(smartPause);
+        BreakAppearance appearance = f.settings.breakAppearance();
+        appearance.backgroundType = BackgroundType::Gradient;
+        f.settings.setBreakAppearance(appearance);
+        AppcastItem update;
+        update.shortVersionString = u"3.0"_s;
+        f.updates.didFindValidUpdate(update);
+        QQuickWindow* window = f.open();
+        const QStringList data = {u"Velto"_s, u"Text Editor"_s, f.paneModel()->websiteDisplayName(),
+                                  f.paneModel()->contactAddress()};
+
+        for (int tab = 0; tab < 6; ++tab) {
+            f.pane(tab);
+            checkLanguage(window, data);
+        }
+        QVERIFY(window->title().startsWith(u'['));
+
+        QObject* smartPausePane = f.pane(2);
+        emitSignal(smartPausePane->findChild<QObject*>(u"addApp"_s), "clicked");
+        QTRY_VERIFY(isShown(smartPausePane->findChild<QObject*>(u"emptyState"_s)));
+        checkLanguage(window, data);
+        QVERIFY(QMetaObject::invokeMethod(smartPausePane->findChild<QObject*>(u"addFocusAppSheet"_s), "close"));
+
+        toggle(f.pane(1)->findChild<QObject*>(u"lockScreenOnBreak"_s), true);
+        QTRY_VERIFY(f.pane(1)->findChild<QObject*>(u"lockScreenAlert"_s)->property("opened").toBool());
+        checkLanguage(window, data);
     }
 
     void aboutPaneChecksQuietlyEachTimeItIsShown()
