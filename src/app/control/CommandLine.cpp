@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -8,6 +9,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 namespace {
+
+// What the command line tells people, in their language.
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
 
 using Command = CommandLine::Command;
 
@@ -109,14 +116,14 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     QStringList rest = arguments.mid(index + 1);
     if (word == u"--version"_s || word == u"-v"_s) {
         if (!rest.isEmpty())
-            return invalid(u"unexpected argument '%1'"_s.arg(rest.first()));
+            return invalid(tr("unexpected argument '%1'").arg(rest.first()));
         return withCommand(Command::Version);
     }
     const auto found = commandWords().constFind(word);
     if (found == commandWords().constEnd()) {
         if (word.startsWith(u'-'))
-            return invalid(u"unknown option '%1'"_s.arg(word));
-        return invalid(u"unknown command '%1'"_s.arg(word));
+            return invalid(tr("unknown option '%1'").arg(word));
+        return invalid(tr("unknown command '%1'").arg(word));
     }
 
     CommandLine result = withCommand(found.value());
@@ -127,8 +134,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         if (action == u"enable"_s)
             result.command = Command::GnomeExtensionEnable;
         else if (action != u"status"_s)
-            return invalid(action.isEmpty() ? u"gnome-extension needs 'status' or 'enable'"_s
-                                            : u"unknown gnome-extension command '%1'"_s.arg(action));
+            return invalid(action.isEmpty() ? tr("gnome-extension needs 'status' or 'enable'")
+                                            : tr("unknown gnome-extension command '%1'").arg(action));
         name += u' ' + action;
         rest.removeFirst();
     }
@@ -144,12 +151,12 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             const int minutes = argument.toInt(&ok);
             if (!ok || minutes < 1 || minutes > maximumPauseMinutes)
                 return invalid(
-                    u"MINUTES must be a whole number from 1 to %1, not '%2'"_s.arg(maximumPauseMinutes).arg(argument));
+                    tr("MINUTES must be a whole number from 1 to %1, not '%2'").arg(maximumPauseMinutes).arg(argument));
             result.pauseMinutes = minutes;
         } else if (argument.startsWith(u'-')) {
-            return invalid(u"unknown option '%1' for %2"_s.arg(argument, name));
+            return invalid(tr("unknown option '%1' for %2").arg(argument, name));
         } else {
-            return invalid(u"unexpected argument '%1' for %2"_s.arg(argument, name));
+            return invalid(tr("unexpected argument '%1' for %2").arg(argument, name));
         }
     }
     return result;
@@ -161,36 +168,49 @@ const QList<CommandLine::Spec>& CommandLine::commands()
         {u"status"_s,
          Command::Status,
          u"[--json]"_s,
-         u"Show the countdown, the state and today's breaks"_s,
+         QT_TRANSLATE_NOOP("CommandLine", "Show the countdown, the state and today's breaks"),
          {u"--json"_s},
          {}},
         {u"break"_s,
          Command::TakeBreak,
          u"[--long]"_s,
-         u"Take a break now (a long break with --long)"_s,
+         QT_TRANSLATE_NOOP("CommandLine", "Take a break now (a long break with --long)"),
          {u"--long"_s},
          {}},
         {u"pause"_s,
          Command::Pause,
          u"[MINUTES]"_s,
-         u"Pause reminders for MINUTES minutes (%1 if not given)"_s.arg(defaultPauseMinutes),
+         QT_TRANSLATE_NOOP("CommandLine", "Pause reminders for MINUTES minutes (%1 if not given)"),
          {},
          {}},
-        {u"resume"_s, Command::Resume, {}, u"End a pause"_s, {}, {}},
-        {u"skip"_s, Command::Skip, {}, u"Skip the coming break"_s, {}, {}},
-        {u"enable"_s, Command::Enable, {}, u"Turn reminders on"_s, {}, {}},
-        {u"disable"_s, Command::Disable, {}, u"Turn reminders off"_s, {}, {}},
-        {u"settings"_s, Command::Settings, {}, u"Open the settings window"_s, {}, {}},
-        {u"check-updates"_s, Command::CheckUpdates, {}, u"Check for a newer version and say what was found"_s, {}, {}},
-        {u"quit"_s, Command::Quit, {}, u"Quit Velto"_s, {}, {}},
+        {u"resume"_s, Command::Resume, {}, QT_TRANSLATE_NOOP("CommandLine", "End a pause"), {}, {}},
+        {u"skip"_s, Command::Skip, {}, QT_TRANSLATE_NOOP("CommandLine", "Skip the coming break"), {}, {}},
+        {u"enable"_s, Command::Enable, {}, QT_TRANSLATE_NOOP("CommandLine", "Turn reminders on"), {}, {}},
+        {u"disable"_s, Command::Disable, {}, QT_TRANSLATE_NOOP("CommandLine", "Turn reminders off"), {}, {}},
+        {u"settings"_s, Command::Settings, {}, QT_TRANSLATE_NOOP("CommandLine", "Open the settings window"), {}, {}},
+        {u"check-updates"_s,
+         Command::CheckUpdates,
+         {},
+         QT_TRANSLATE_NOOP("CommandLine", "Check for a newer version and say what was found"),
+         {},
+         {}},
+        {u"quit"_s, Command::Quit, {}, QT_TRANSLATE_NOOP("CommandLine", "Quit Velto"), {}, {}},
         {u"gnome-extension"_s,
          Command::GnomeExtensionStatus, // or GnomeExtensionEnable, by the word after it
          u"status [--json] | enable"_s,
-         u"Tell whether Velto's GNOME Shell extension is installed, enabled and running, or enable it"_s,
+         QT_TRANSLATE_NOOP(
+             "CommandLine",
+             "Tell whether Velto's GNOME Shell extension is installed, enabled and running, or enable it"),
          {},
          {u"status"_s, u"enable"_s}},
     };
     return table;
+}
+
+QString CommandLine::summaryText(const Spec& spec)
+{
+    const QString text = tr(spec.summary);
+    return text.contains(u"%1"_s) ? text.arg(defaultPauseMinutes) : text;
 }
 
 QString CommandLine::usage()
@@ -215,19 +235,18 @@ QString CommandLine::usage()
     for (const Spec& spec : commands()) {
         CommandLine commandLine;
         commandLine.command = spec.command;
-        (commandLine.talksToRunningInstance() ? forRunning : alone) += line(synopsis(spec), spec.summary);
+        (commandLine.talksToRunningInstance() ? forRunning : alone) += line(synopsis(spec), summaryText(spec));
     }
-    QString text = u"Usage: velto [COMMAND]\n"
-                   u"\n"
-                   u"Without a command, starts Velto; if Velto is already running, opens its settings instead.\n"
-                   u"\n"
-                   u"Commands for the running Velto:\n"_s +
-                   forRunning + u"\nCommands that ask GNOME Shell itself, with or without a running Velto:\n"_s + alone;
-    text += u"\nOptions:\n"_s + line(u"-h, --help"_s, u"Show this help"_s) +
-            line(u"-v, --version"_s, u"Show the version"_s) +
-            u"\n"
-            u"Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
-            u"failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.\n"_s;
+    //: COMMAND stays as it is: it stands for one of the commands listed below
+    QString text = tr("Usage: velto [COMMAND]") + u"\n\n"_s +
+                   tr("Without a command, starts Velto; if Velto is already running, opens its settings instead.") +
+                   u"\n\n"_s + tr("Commands for the running Velto:") + u'\n' + forRunning + u'\n' +
+                   tr("Commands that ask GNOME Shell itself, with or without a running Velto:") + u'\n' + alone;
+    text += u'\n' + tr("Options:") + u'\n' + line(u"-h, --help"_s, tr("Show this help")) +
+            line(u"-v, --version"_s, tr("Show the version")) + u'\n' +
+            tr("Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
+               "failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.") +
+            u'\n';
     return text;
 }
 

@@ -57,12 +57,14 @@ struct CommandLine {
     struct Spec {
         QString name;
         Command command;
-        QString arguments; // after the name in the synopsis, e.g. "[--json]"
-        QString summary;   // one line
+        QString arguments;   // after the name in the synopsis, e.g. "[--json]"
+        const char* summary; // one line, untranslated: see summaryText()
         QStringList options;
         QStringList words; // the fixed words its argument may be
     };
     [[nodiscard]] static const QList<Spec>& commands();
+    // A command's summary in the user's language.
+    [[nodiscard]] static QString summaryText(const Spec& spec);
 
     friend bool operator==(const CommandLine&, const CommandLine&) = default;
 };

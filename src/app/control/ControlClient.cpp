@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "ControlTarget.h"
 
+#include <QCoreApplication>
 #include <QDBusError>
 #include <QDBusReply>
 #include <QJsonDocument>
@@ -16,7 +17,16 @@ namespace {
 
 using Command = CommandLine::Command;
 
-const QString notRunningText = u"velto: Velto is not running"_s;
+// The command line's texts for people; what --json prints never changes with the language.
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+QString notRunningText()
+{
+    return u"velto: "_s + tr("Velto is not running");
+}
 
 } // namespace
 
@@ -49,19 +59,20 @@ int ControlClient::reportFailure(const QDBusMessage& reply, QTextStream& err)
     const QDBusError error(reply);
     switch (error.type()) {
     case QDBusError::ServiceUnknown:
-        err << notRunningText << '\n';
+        err << notRunningText() << '\n';
         break;
     case QDBusError::NoReply:
     case QDBusError::Timeout:
     case QDBusError::TimedOut:
         if (isInstanceRunning())
-            err << u"velto: Velto did not answer within %1 seconds"_s.arg(m_timeoutMs / 1000.0) << '\n';
+            //: %1: a number of seconds
+            err << u"velto: "_s << tr("Velto did not answer within %1 seconds").arg(m_timeoutMs / 1000.0) << '\n';
         else
-            err << notRunningText << '\n';
+            err << notRunningText() << '\n';
         break;
     default:
         if (error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner"_s)
-            err << notRunningText << '\n';
+            err << notRunningText() << '\n';
         else
             err << u"velto: "_s << error.message() << '\n';
         break;
@@ -73,7 +84,7 @@ int ControlClient::reportFailure(const QDBusMessage& reply, QTextStream& err)
 int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextStream& err)
 {
     if (!m_bus.isConnected()) {
-        err << u"velto: no session bus, so no running Velto can be reached"_s << '\n';
+        err << u"velto: "_s << tr("no session bus, so no running Velto can be reached") << '\n';
         err.flush();
         return ExitCode::failure;
     }
@@ -107,7 +118,7 @@ int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextSt
     case Command::Settings:
         reply = call(u"openSettings"_s);
         if (reply.type() == QDBusMessage::ReplyMessage && !QDBusReply<bool>(reply).value()) {
-            err << u"velto: the settings window cannot be shown in this session"_s << '\n';
+            err << u"velto: "_s << tr("the settings window cannot be shown in this session") << '\n';
             err.flush();
             return ExitCode::failure;
         }
@@ -127,7 +138,7 @@ int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextSt
             return ExitCode::success;
         break;
     default:
-        err << u"velto: nothing to send for this command"_s << '\n';
+        err << u"velto: "_s << tr("nothing to send for this command") << '\n';
         err.flush();
         return ExitCode::usage;
     }
@@ -143,22 +154,30 @@ int ControlClient::handOver(QTextStream& out, QTextStream& err)
     if (reply.type() != QDBusMessage::ReplyMessage)
         return reportFailure(reply, err);
     if (QDBusReply<bool>(reply).value())
-        out << u"Velto is already running; its settings window is open."_s << '\n';
+        out << tr("Velto is already running; its settings window is open.") << '\n';
     else
-        out << u"Velto is already running."_s << '\n';
+        out << tr("Velto is already running.") << '\n';
     out.flush();
     return ExitCode::success;
 }
 
 QString ControlClient::statusText(const ControlStatus& status)
 {
-    const QString pauseReason = status.pauseReason.isEmpty() ? u"none"_s : status.pauseReason;
-    return status.statusLine + u'\n' +                     //
-           u"Time left:    "_s + status.timeText + u'\n' + //
-           u"State:        "_s + status.state + u'\n' +    //
-           u"Pause reason: "_s + pauseReason + u'\n' +     //
-           u"Breaks today: "_s + QString::number(status.breaksToday) + u'\n' + u"Reminders:    "_s +
-           (status.enabled ? u"on"_s : u"off"_s) + u'\n';
+    // The state and the pause reason are Velto's own words for scripts, the same in every language.
+    const QList<std::pair<QString, QString>> rows{
+        {tr("Time left:"), status.timeText},
+        {tr("State:"), status.state},
+        {tr("Pause reason:"), status.pauseReason.isEmpty() ? tr("none") : status.pauseReason},
+        {tr("Breaks today:"), QString::number(status.breaksToday)},
+        {tr("Reminders:"), status.enabled ? tr("on") : tr("off")},
+    };
+    qsizetype width = 0;
+    for (const auto& [label, value] : rows)
+        width = std::max(width, label.size());
+    QString text = status.statusLine + u'\n';
+    for (const auto& [label, value] : rows)
+        text += label.leftJustified(width + 1) + value + u'\n';
+    return text;
 }
 
 QString ControlClient::statusJson(const ControlStatus& status)

@@ -2,6 +2,7 @@
 
 #include "CommandLine.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -67,25 +68,28 @@ int GnomeExtensionCommand::run(const CommandLine& commandLine, QTextStream& out,
 
     std::optional<GnomeExtensionFacts> facts = gather();
     if (!facts)
-        return fail(u"GNOME Shell did not answer in time"_s);
+        return fail(QCoreApplication::translate("CommandLine", "GNOME Shell did not answer in time"));
     State state = gnomeExtensionState(*facts);
     if (state == State::NotGnome) {
         if (commandLine.json) {
             out << statusJson(state, false);
             out.flush();
         }
-        return fail(u"there is no GNOME Shell in this session"_s);
+        return fail(QCoreApplication::translate("CommandLine", "there is no GNOME Shell in this session"));
     }
 
     if (commandLine.command == CommandLine::Command::GnomeExtensionEnable) {
         if (state == State::NotInstalled)
-            return fail(u"Velto's GNOME Shell extension is not installed (it comes with Velto's package)"_s);
+            return fail(QCoreApplication::translate(
+                "CommandLine", "Velto's GNOME Shell extension is not installed (it comes with Velto's package)"));
         if (state == State::NotEnabled) {
             const std::optional<QString> error = enable();
             if (!error)
-                return fail(u"GNOME Shell did not answer in time"_s);
+                return fail(QCoreApplication::translate("CommandLine", "GNOME Shell did not answer in time"));
             if (!error->isEmpty())
-                return fail(u"the GNOME Shell extension could not be enabled: "_s + *error);
+                return fail(
+                    QCoreApplication::translate("CommandLine", "the GNOME Shell extension could not be enabled: ") +
+                    *error);
             facts = m_extension.facts();
             state = facts ? gnomeExtensionState(*facts) : State::NotGnome;
         }
@@ -97,7 +101,7 @@ int GnomeExtensionCommand::run(const CommandLine& commandLine, QTextStream& out,
     } else {
         out << gnomeExtensionStateText(state) << '\n';
         if (enableable)
-            out << u"Enable it with: velto gnome-extension enable"_s << '\n';
+            out << QCoreApplication::translate("CommandLine", "Enable it with: velto gnome-extension enable") << '\n';
     }
     out.flush();
 
@@ -108,11 +112,12 @@ int GnomeExtensionCommand::run(const CommandLine& commandLine, QTextStream& out,
     case State::NotEnabled:
         // Asked to enable, yet still off: the settings did not take.
         return commandLine.command == CommandLine::Command::GnomeExtensionEnable
-                   ? fail(u"GNOME Shell still has the extension off"_s)
+                   ? fail(QCoreApplication::translate("CommandLine", "GNOME Shell still has the extension off"))
                    : ExitCode::success;
     case State::Failed:
         return commandLine.command == CommandLine::Command::GnomeExtensionEnable
-                   ? fail(u"GNOME Shell could not start the extension; its log may say why"_s)
+                   ? fail(QCoreApplication::translate("CommandLine",
+                                                      "GNOME Shell could not start the extension; its log may say why"))
                    : ExitCode::success;
     case State::NotInstalled:
         return ExitCode::failure;

@@ -37,7 +37,7 @@ QString manCommands()
         out += u".TP\n\\fB"_s + roffEscaped(spec.name) + u"\\fR"_s;
         if (!spec.arguments.isEmpty())
             out += u" \\fI"_s + roffEscaped(spec.arguments) + u"\\fR"_s;
-        out += u'\n' + roffEscaped(spec.summary) + u".\n"_s;
+        out += u'\n' + roffEscaped(CommandLine::summaryText(spec)) + u".\n"_s;
     }
     return out.trimmed();
 }
@@ -87,7 +87,7 @@ QString zsh()
     QString described;
     QString cases;
     for (const CommandLine::Spec& spec : CommandLine::commands()) {
-        QString summary = spec.summary;
+        QString summary = CommandLine::summaryText(spec);
         summary.replace(u":"_s, u"\\:"_s);
         described += u"    "_s + shellQuoted(spec.name + u':' + summary) + u'\n';
         if (!followers(spec).isEmpty())
@@ -118,8 +118,8 @@ QString fish()
                   u"complete -c velto -n __fish_use_subcommand -s h -l help -d 'Show the help'\n"
                   u"complete -c velto -n __fish_use_subcommand -s v -l version -d 'Show the version'\n"_s;
     for (const CommandLine::Spec& spec : CommandLine::commands()) {
-        out += u"complete -c velto -n __fish_use_subcommand -a "_s + spec.name + u" -d "_s + shellQuoted(spec.summary) +
-               u'\n';
+        out += u"complete -c velto -n __fish_use_subcommand -a "_s + spec.name + u" -d "_s +
+               shellQuoted(CommandLine::summaryText(spec)) + u'\n';
         const QString after = u"complete -c velto -n '__fish_seen_subcommand_from "_s + spec.name + u"' "_s;
         for (const QString& option : spec.options)
             out += after + u"-l "_s + option.mid(2) + u'\n';
