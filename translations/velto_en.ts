@@ -2,6 +2,47 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>PauseReason</name>
+    <message numerus="yes">
+        <source>Paused · resumes in %n min</source>
+        <extracomment>The tray menu&apos;s status line during a timed pause; %n is the minutes until it ends.</extracomment>
+        <translation>
+            <numerusform>Paused · resumes in %n min</numerusform>
+            <numerusform>Paused · resumes in %n min</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message numerus="yes">
+        <source>%n min</source>
+        <extracomment>A duration a screen reader says for the tray icon, with &quot;%1 remaining&quot; around it.</extracomment>
+        <translation>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n h</source>
+        <extracomment>A duration a screen reader says for the tray icon, with &quot;%1 remaining&quot; around it.</extracomment>
+        <translation>
+            <numerusform>%n h</numerusform>
+            <numerusform>%n h</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TrayMenu</name>
+    <message numerus="yes">
+        <source>%n breaks today</source>
+        <extracomment>%n is how many breaks were taken today. English says &quot;1 breaks today&quot; too.</extracomment>
+        <translation>
+            <numerusform>%n breaks today</numerusform>
+            <numerusform>%n breaks today</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velto::SettingsPaneModel</name>
     <message numerus="yes">
         <source>%n min</source>

@@ -1,9 +1,10 @@
 #include "SchedulingTypes.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
-
-using namespace Qt::Literals::StringLiterals;
+#include <limits>
 
 namespace velto {
 
@@ -15,6 +16,11 @@ qint64 wholeSeconds(double seconds)
     return static_cast<qint64>(std::trunc(std::min(seconds, largest)));
 }
 
+int pluralCount(qint64 count)
+{
+    return static_cast<int>(std::clamp<qint64>(count, 0, std::numeric_limits<int>::max()));
+}
+
 QString PauseReason::displayText(const QDateTime& now) const
 {
     switch (kind) {
@@ -22,15 +28,19 @@ QString PauseReason::displayText(const QDateTime& now) const
         if (resumesAt && *resumesAt > now) {
             const double secondsLeft = static_cast<double>(now.msecsTo(*resumesAt)) / 1000.0;
             const qint64 minutes = wholeSeconds(secondsLeft) / 60 + 1;
-            return u"Paused \u00B7 resumes in %1 min"_s.arg(minutes);
+            //: The tray menu's status line during a timed pause; %n is the minutes until it ends.
+            return QCoreApplication::translate("PauseReason", "Paused · resumes in %n min", nullptr,
+                                               pluralCount(minutes));
         }
-        return u"Paused"_s;
+        return QCoreApplication::translate("PauseReason", "Paused");
     case PauseKind::OutsideOfficeHours:
-        return u"Outside office hours"_s;
+        return QCoreApplication::translate("PauseReason", "Outside office hours");
     case PauseKind::AppDisabled:
-        return u"Breaks disabled"_s;
+        //: Velto's reminders are switched off.
+        return QCoreApplication::translate("PauseReason", "Breaks disabled");
     case PauseKind::SmartActivity:
-        return u"Smart Pause active"_s;
+        //: Smart Pause is the feature's name: breaks wait while a meeting, video, game or focus app is on.
+        return QCoreApplication::translate("PauseReason", "Smart Pause active");
     }
     return {};
 }

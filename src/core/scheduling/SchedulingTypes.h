@@ -62,4 +62,8 @@ public:
 // stored duration too large for any clock is held at a bound instead of overflowing into garbage.
 [[nodiscard]] qint64 wholeSeconds(double seconds);
 
+// A count for a text with plural forms, which Qt takes as an int: held at the largest int rather than wrapped
+// (only a countdown of thousands of years gets that far).
+[[nodiscard]] int pluralCount(qint64 count);
+
 } // namespace velto
