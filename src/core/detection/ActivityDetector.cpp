@@ -252,23 +252,24 @@ ActivityDetector::Status ActivityDetector::status(bool withText) const
     if (m_isInMeeting) {
         if (m_meetingPauseAppBundleIdentifier) {
             if (const auto name = KnownApplications::meetingAppName(*m_meetingPauseAppBundleIdentifier))
-                return {u"In "_s + *name, u"person.wave.2"_s};
-            return {u"Meeting app active"_s, u"person.wave.2"_s};
+                //: Why breaks wait: the user is in a call; %1 is the meeting application's name, such as Zoom.
+                return {tr("In %1").arg(*name), u"person.wave.2"_s};
+            return {tr("Meeting app active"), u"person.wave.2"_s};
         }
         if (m_meetingPauseCamera && m_meetingPauseMicrophone)
-            return {u"Camera and microphone in use"_s, u"video.fill"_s};
+            return {tr("Camera and microphone in use"), u"video.fill"_s};
         if (m_meetingPauseCamera)
-            return {u"Camera in use"_s, u"camera.fill"_s};
+            return {tr("Camera in use"), u"camera.fill"_s};
         if (m_meetingPauseMicrophone)
-            return {u"Microphone in use"_s, u"mic.fill"_s};
-        return {u"Meeting activity detected"_s, u"person.wave.2"_s};
+            return {tr("Microphone in use"), u"mic.fill"_s};
+        return {tr("Meeting activity detected"), u"person.wave.2"_s};
     }
     if (m_isWatchingVideo)
-        return {u"Watching video"_s, u"play.rectangle"_s};
+        return {tr("Watching video"), u"play.rectangle"_s};
     if (m_isScreenRecording)
-        return {u"Recording screen"_s, u"record.circle"_s};
+        return {tr("Recording screen"), u"record.circle"_s};
     if (m_isInFullscreenGame)
-        return {u"Playing a game"_s, u"gamecontroller"_s};
+        return {tr("Playing a game"), u"gamecontroller"_s};
     if (m_isInDeepFocusApp)
         // Worked out afresh on each read, from the applications running now.
         return {withText ? DetectionRules::deepFocusStatusText(m_providers.workspace->runningApplications(),
@@ -276,10 +277,13 @@ ActivityDetector::Status ActivityDetector::status(bool withText) const
                          : QString(),
                 u"scope"_s};
     if (m_isIdle)
-        return {u"Away from desk"_s, u"moon"_s};
+        //: No keyboard or pointer input for a while.
+        return {tr("Away from desk"), u"moon"_s};
     if (!m_lastActivityDetectedAt)
-        return {u"Smart Pause active"_s, u"pause.circle"_s};
-    return {u"Winding down\u2026"_s, u"hourglass"_s};
+        //: Smart Pause is the feature's name: breaks wait while a meeting, video, game or focus app is on.
+        return {tr("Smart Pause active"), u"pause.circle"_s};
+    //: The activity that held breaks has ended; breaks wait a little longer before the countdown runs again.
+    return {tr("Winding down…"), u"hourglass"_s};
 }
 
 } // namespace velto

@@ -2,6 +2,8 @@
 
 #include "KnownApplications.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -203,11 +205,13 @@ QString deepFocusStatusText(const QList<AppSnapshot>& runningApplications, const
     const std::optional<AppSnapshot> frontmost = frontmostApplication(runningApplications);
     if (frontmost && frontmost->bundleIdentifier) {
         if (const DeepFocusApp* entry = entryFor(*frontmost->bundleIdentifier, deepFocusApps))
-            return entry->name + u" is active"_s;
+            //: Why breaks wait: %1 is the name of a focus application the user chose, and it is in front.
+            return QCoreApplication::translate("SmartPause", "%1 is active").arg(entry->name);
     }
     if (const DeepFocusApp* entry = firstRunningWhenOpenEntry(runningApplications, deepFocusApps))
-        return entry->name + u" is open"_s;
-    return u"Focus app active"_s;
+        //: Why breaks wait: %1 is the name of a focus application the user chose, and it is running.
+        return QCoreApplication::translate("SmartPause", "%1 is open").arg(entry->name);
+    return QCoreApplication::translate("SmartPause", "Focus app active");
 }
 
 } // namespace velto::DetectionRules
