@@ -43,6 +43,41 @@
     </message>
 </context>
 <context>
+    <name>velto::PreBreakNotificationDisplayModel</name>
+    <message numerus="yes">
+        <source>Break in %n seconds</source>
+        <extracomment>What a screen reader says for the notice&apos;s countdown.</extracomment>
+        <translation>
+            <numerusform>Break in %n second</numerusform>
+            <numerusform>Break in %n seconds</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Break in %n minutes</source>
+        <extracomment>What a screen reader says for the notice&apos;s countdown.</extracomment>
+        <translation>
+            <numerusform>Break in %n minute</numerusform>
+            <numerusform>Break in %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes</source>
+        <extracomment>The minutes of &quot;Break in %1 %2&quot;.</extracomment>
+        <translation>
+            <numerusform>%n minute</numerusform>
+            <numerusform>%n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n seconds</source>
+        <extracomment>The seconds of &quot;Break in %1 %2&quot;.</extracomment>
+        <translation>
+            <numerusform>%n second</numerusform>
+            <numerusform>%n seconds</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velto::SettingsPaneModel</name>
     <message numerus="yes">
         <source>%n min</source>

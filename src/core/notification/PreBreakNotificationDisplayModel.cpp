@@ -8,14 +8,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
-namespace {
-
-QString counted(qint64 number, const QString& singular, const QString& plural)
-{
-    return u"%1 %2"_s.arg(number).arg(number == 1 ? singular : plural);
-}
-
-} // namespace
 
 PreBreakNotificationDisplayModel::PreBreakNotificationDisplayModel(BreakType breakType, double timeRemaining,
                                                                    QObject* parent)
@@ -31,14 +23,15 @@ void PreBreakNotificationDisplayModel::setTimeRemaining(double value)
 
 QString PreBreakNotificationDisplayModel::titleFor(BreakType breakType)
 {
-    return breakType == BreakType::Long ? u"Deep rest coming up"_s : u"Quick break coming up"_s;
+    //: The title of the notice shown shortly before a break.
+    return breakType == BreakType::Long ? tr("Deep rest coming up") : tr("Quick break coming up");
 }
 
 QString PreBreakNotificationDisplayModel::messageFor(BreakType breakType)
 {
     return breakType == BreakType::Long
-               ? u"Wrap up or park your task. You\u2019re nearly at a longer chance to step away."_s
-               : u"Save your place and finish the thought you\u2019re on. A quick reset is almost here."_s;
+               ? tr("Wrap up or park your task. You’re nearly at a longer chance to step away.")
+               : tr("Save your place and finish the thought you’re on. A quick reset is almost here.");
 }
 
 QString PreBreakNotificationDisplayModel::countdownTextFor(double seconds)
@@ -50,14 +43,23 @@ QString PreBreakNotificationDisplayModel::countdownTextFor(double seconds)
 QString PreBreakNotificationDisplayModel::countdownSpokenLabelFor(double seconds)
 {
     const qint64 s = wholeSeconds(seconds);
-    const QString second = u"second"_s;
-    const QString secondsWord = u"seconds"_s;
-    if (s < 60)
-        return u"Break in "_s + counted(s, second, secondsWord);
-    QString label = u"Break in "_s + counted(s / 60, u"minute"_s, u"minutes"_s);
-    if (s % 60 != 0)
-        label += u' ' + counted(s % 60, second, secondsWord);
-    return label;
+    const int minutes = pluralCount(s / 60);
+    const int secondsPastMinute = pluralCount(s % 60);
+    if (minutes == 0) {
+        //: What a screen reader says for the notice's countdown.
+        return tr("Break in %n seconds", nullptr, secondsPastMinute);
+    }
+    if (secondsPastMinute == 0) {
+        //: What a screen reader says for the notice's countdown.
+        return tr("Break in %n minutes", nullptr, minutes);
+    }
+    //: The minutes of "Break in %1 %2".
+    const QString minutesText = tr("%n minutes", nullptr, minutes);
+    //: The seconds of "Break in %1 %2".
+    const QString secondsText = tr("%n seconds", nullptr, secondsPastMinute);
+    //: What a screen reader says for the notice's countdown, such as "Break in 2 minutes 5 seconds": %1 is the
+    //: minutes, %2 the seconds.
+    return tr("Break in %1 %2").arg(minutesText, secondsText);
 }
 
 } // namespace velto

@@ -1,3 +1,4 @@
+#include "EnglishPluralForms.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
 #include <QSignalSpy>
@@ -12,10 +13,14 @@ class TestPreBreakNotificationDisplayModel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_english.install()); }
     void countdown_data();
     void countdown();
     void textsFollowTheBreakType();
     void everyAssignmentIsPublished();
+
+private:
+    EnglishPluralForms m_english;
 };
 
 void TestPreBreakNotificationDisplayModel::countdown_data()
