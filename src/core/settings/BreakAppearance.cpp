@@ -2,6 +2,8 @@
 
 #include "JsonRecord.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
@@ -92,12 +94,13 @@ CodableColor accentColor(GradientTheme theme)
 
 QStringList BreakAppearance::defaultMessages()
 {
+    // In the user's language when the record is made; from then on they are the user's own texts, kept as stored.
     return {
-        u"Rest your eyes and take a deep breath"_s,
-        u"Look at something 20 feet away"_s,
-        u"Blink slowly and relax your eyes"_s,
-        u"Stretch your shoulders and neck"_s,
-        u"You're doing great! Keep up the healthy habits"_s,
+        QCoreApplication::translate("BreakMessage", "Rest your eyes and take a deep breath"),
+        QCoreApplication::translate("BreakMessage", "Look at something 20 feet away"),
+        QCoreApplication::translate("BreakMessage", "Blink slowly and relax your eyes"),
+        QCoreApplication::translate("BreakMessage", "Stretch your shoulders and neck"),
+        QCoreApplication::translate("BreakMessage", "You're doing great! Keep up the healthy habits"),
     };
 }
 

@@ -1,5 +1,9 @@
 #include "SettingsEnums.h"
 
+#include <QCoreApplication>
+
+#include <array>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
@@ -15,11 +19,11 @@ QString title(SkipDifficulty difficulty)
 {
     switch (difficulty) {
     case SkipDifficulty::Casual:
-        return u"Flexible"_s;
+        return QCoreApplication::translate("SkipDifficulty", "Flexible");
     case SkipDifficulty::Balanced:
-        return u"Gentle"_s;
+        return QCoreApplication::translate("SkipDifficulty", "Gentle");
     case SkipDifficulty::Hardcore:
-        return u"Committed"_s;
+        return QCoreApplication::translate("SkipDifficulty", "Committed");
     }
     return {};
 }
@@ -28,13 +32,13 @@ QString title(BreakPresetKind preset)
 {
     switch (preset) {
     case BreakPresetKind::Balanced:
-        return u"Balanced"_s;
+        return QCoreApplication::translate("BreakPreset", "Balanced");
     case BreakPresetKind::DeepFocus:
-        return u"Deep Focus"_s;
+        return QCoreApplication::translate("BreakPreset", "Deep Focus");
     case BreakPresetKind::EyeCare:
-        return u"Eye Care"_s;
+        return QCoreApplication::translate("BreakPreset", "Eye Care");
     case BreakPresetKind::Custom:
-        return u"Custom"_s;
+        return QCoreApplication::translate("BreakPreset", "Custom");
     }
     return {};
 }
@@ -43,23 +47,25 @@ QString shortTitle(Weekday day)
 {
     switch (day) {
     case Weekday::Sunday:
-        return u"Sun"_s;
+        return QCoreApplication::translate("Weekday", "Sun");
     case Weekday::Monday:
-        return u"Mon"_s;
+        return QCoreApplication::translate("Weekday", "Mon");
     case Weekday::Tuesday:
-        return u"Tue"_s;
+        return QCoreApplication::translate("Weekday", "Tue");
     case Weekday::Wednesday:
-        return u"Wed"_s;
+        return QCoreApplication::translate("Weekday", "Wed");
     case Weekday::Thursday:
-        return u"Thu"_s;
+        return QCoreApplication::translate("Weekday", "Thu");
     case Weekday::Friday:
-        return u"Fri"_s;
+        return QCoreApplication::translate("Weekday", "Fri");
     case Weekday::Saturday:
-        return u"Sat"_s;
+        return QCoreApplication::translate("Weekday", "Sat");
     }
     return {};
 }
 
+// Not translated yet: the focus-app row and the add-app sheet have no room for a longer picker beside the app's
+// name and its label.
 QString rowTitle(DeepFocusMode mode)
 {
     switch (mode) {
@@ -90,9 +96,10 @@ QString title(VideoDetectionMode mode)
 {
     switch (mode) {
     case VideoDetectionMode::FrontmostOnly:
-        return u"Frontmost only"_s;
+        //: Which video players are asked whether they play: only the one in front.
+        return QCoreApplication::translate("VideoDetection", "Frontmost only");
     case VideoDetectionMode::IncludeBackground:
-        return u"Running in background too"_s;
+        return QCoreApplication::translate("VideoDetection", "Running in background too");
     }
     return {};
 }
@@ -101,34 +108,44 @@ QString title(BackgroundType type)
 {
     switch (type) {
     case BackgroundType::PaperLight:
-        return u"Paper Light"_s;
+        return QCoreApplication::translate("BreakBackground", "Paper Light");
     case BackgroundType::Gradient:
-        return u"Gradient"_s;
+        return QCoreApplication::translate("BreakBackground", "Gradient");
     case BackgroundType::PaperDark:
-        return u"Paper Dark"_s;
+        return QCoreApplication::translate("BreakBackground", "Paper Dark");
     case BackgroundType::SolidColor:
-        return u"Solid Color"_s;
+        return QCoreApplication::translate("BreakBackground", "Solid Color");
     case BackgroundType::CustomImage:
-        return u"Custom Image"_s;
+        return QCoreApplication::translate("BreakBackground", "Custom Image");
     case BackgroundType::SystemWallpaper:
-        return u"System Wallpaper"_s;
+        return QCoreApplication::translate("BreakBackground", "System Wallpaper");
     }
     return {};
 }
 
 QString title(GradientTheme theme)
 {
-    // The titles are the enumerator names, which is what the Appearance pane shows.
-    return QString::fromLatin1(QMetaEnum::fromType<GradientTheme>().valueToKey(static_cast<int>(theme)));
+    // In declaration order; the titles are the enumerator names.
+    static constexpr std::array titles = {
+        QT_TRANSLATE_NOOP("GradientTheme", "Midnight"), QT_TRANSLATE_NOOP("GradientTheme", "Aurora"),
+        QT_TRANSLATE_NOOP("GradientTheme", "Ocean"),    QT_TRANSLATE_NOOP("GradientTheme", "Sunset"),
+        QT_TRANSLATE_NOOP("GradientTheme", "Forest"),   QT_TRANSLATE_NOOP("GradientTheme", "Cosmos"),
+        QT_TRANSLATE_NOOP("GradientTheme", "Minimal"),  QT_TRANSLATE_NOOP("GradientTheme", "Rose"),
+        QT_TRANSLATE_NOOP("GradientTheme", "Warmth"),   QT_TRANSLATE_NOOP("GradientTheme", "Slate"),
+        QT_TRANSLATE_NOOP("GradientTheme", "Lavender"),
+    };
+    static_assert(titles.size() == static_cast<std::size_t>(GradientTheme::Lavender) + 1);
+    const auto index = static_cast<std::size_t>(theme);
+    return index < titles.size() ? QCoreApplication::translate("GradientTheme", titles[index]) : QString();
 }
 
 QString title(ScreenDisplayMode mode)
 {
     switch (mode) {
     case ScreenDisplayMode::AllScreens:
-        return u"All Screens"_s;
+        return QCoreApplication::translate("BreakScreens", "All Screens");
     case ScreenDisplayMode::MainScreenOnly:
-        return u"Main Screen Only"_s;
+        return QCoreApplication::translate("BreakScreens", "Main Screen Only");
     }
     return {};
 }

@@ -66,6 +66,10 @@ void TestSettingsRecords::enumerationsRoundTripTheirRawValuesCaseSensitively()
     QCOMPARE(weekdayFromRawValue(7), Weekday::Saturday);
     QCOMPARE(weekdayFromRawValue(0), std::nullopt);
     QCOMPARE(weekdayFromRawValue(8), std::nullopt);
+
+    // A gradient theme's title is its enumerator's name, from a table kept in the same order.
+    for (const GradientTheme theme : allCases<GradientTheme>())
+        QCOMPARE(title(theme), QString::fromLatin1(QMetaEnum::fromType<GradientTheme>().valueToKey(int(theme))));
 }
 
 void TestSettingsRecords::breakConfigurationDefaultsAndJson()
