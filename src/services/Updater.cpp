@@ -32,7 +32,7 @@ Updater::Updater(UpdaterConfiguration configuration, UserDefaultsStore* store, C
 {
     m_timeoutTimer.setSingleShot(true);
     connect(&m_timeoutTimer, &QTimer::timeout, this,
-            [this] { fail(UpdaterErrors::TimedOut, u"The update server did not answer in time."_s); });
+            [this] { fail(UpdaterErrors::TimedOut, tr("The update server did not answer in time.")); });
     m_scheduleTimer.setSingleShot(true);
     connect(&m_scheduleTimer, &QTimer::timeout, this, &Updater::onScheduleTimer);
 }
@@ -106,7 +106,7 @@ void Updater::beginCheck(bool userInitiated)
         // Report on the next turn, like every other outcome, so callers never see re-entrant callbacks.
         QTimer::singleShot(0, this, [this] {
             if (!m_reply)
-                fail(UpdaterErrors::FeedInsecure, u"The update feed address is not secure."_s);
+                fail(UpdaterErrors::FeedInsecure, tr("The update feed address is not secure."));
         });
         return;
     }
@@ -123,17 +123,17 @@ void Updater::beginCheck(bool userInitiated)
         if (isAllowedFeedUrl(target))
             Q_EMIT reply->redirectAllowed();
         else
-            fail(UpdaterErrors::FeedInsecure, u"The update feed was redirected to an address that is not secure."_s);
+            fail(UpdaterErrors::FeedInsecure, tr("The update feed was redirected to an address that is not secure."));
     });
     connect(reply, &QNetworkReply::metaDataChanged, this, [this, reply] {
         const QVariant length = reply->header(QNetworkRequest::ContentLengthHeader);
         if (length.isValid() && length.toLongLong() > m_configuration.maxFeedBytes)
-            fail(UpdaterErrors::FeedTooLarge, u"The update feed is too large."_s);
+            fail(UpdaterErrors::FeedTooLarge, tr("The update feed is too large."));
     });
     connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
         m_body += reply->readAll();
         if (m_body.size() > m_configuration.maxFeedBytes)
-            fail(UpdaterErrors::FeedTooLarge, u"The update feed is too large."_s);
+            fail(UpdaterErrors::FeedTooLarge, tr("The update feed is too large."));
     });
     connect(reply, &QNetworkReply::finished, this, &Updater::onFinished);
     m_timeoutTimer.start(m_configuration.timeout);
@@ -163,13 +163,14 @@ void Updater::onFinished()
     releaseReply();
 
     if (m_body.size() > m_configuration.maxFeedBytes) {
-        fail(UpdaterErrors::FeedTooLarge, u"The update feed is too large."_s);
+        fail(UpdaterErrors::FeedTooLarge, tr("The update feed is too large."));
         return;
     }
     if (networkError != QNetworkReply::NoError || status < 200 || status > 299) {
         fail(UpdaterErrors::FeedUnreachable, networkError != QNetworkReply::NoError
                                                  ? errorText
-                                                 : u"The update server answered with status %1."_s.arg(status));
+                                                 //: %1 is the HTTP status number, such as 404.
+                                                 : tr("The update server answered with status %1.").arg(status));
         return;
     }
     evaluate(std::exchange(m_body, {}));
@@ -193,7 +194,7 @@ void Updater::evaluate(const QByteArray& body)
 {
     const auto items = parseAppcast(body);
     if (!items) {
-        fail(UpdaterErrors::FeedMalformed, u"The update feed could not be read."_s);
+        fail(UpdaterErrors::FeedMalformed, tr("The update feed could not be read."));
         return;
     }
 
@@ -225,12 +226,13 @@ void Updater::evaluate(const QByteArray& body)
 
 void Updater::reportNotFound(NoUpdateFoundReason reason)
 {
-    const UpdateError error = makeError(UpdaterErrors::NoUpdateFound, u"Velto is up to date."_s,
+    const UpdateError error = makeError(UpdaterErrors::NoUpdateFound, tr("Velto is up to date."),
                                         {{UpdaterErrors::noUpdateFoundReasonKey.toString(), int(reason)}});
     // What the up-to-date window says.
     m_lastOutcomeText = reason == NoUpdateFoundReason::SystemTooOld
-                            ? u"A newer version of Velto exists but needs a newer system than this one."_s
-                            : u"Velto %1 is the newest version available."_s.arg(m_configuration.hostVersion);
+                            ? tr("A newer version of Velto exists but needs a newer system than this one.")
+                            //: %1 is the version running, such as 1.2.0.
+                            : tr("Velto %1 is the newest version available.").arg(m_configuration.hostVersion);
     m_lastCheckFailed = false;
     if (m_delegate)
         m_delegate->didNotFindUpdate(error);
@@ -241,10 +243,16 @@ void Updater::reportNotFound(NoUpdateFoundReason reason)
 
 void Updater::offer(const AppcastItem& item)
 {
-    m_lastOutcomeText =
-        u"Velto %1 is available; you have %2."_s.arg(item.displayVersionString(), m_configuration.hostVersion);
-    if (const QUrl page = item.downloadPageUrl(); page.isValid())
-        m_lastOutcomeText += u" Download it from "_s + page.toString();
+    const QString available = item.displayVersionString();
+    const QString& running = m_configuration.hostVersion;
+    if (const QUrl page = item.downloadPageUrl(); page.isValid()) {
+        //: %1 is the new version, %2 the version running, %3 the web address of the download page.
+        m_lastOutcomeText =
+            tr("Velto %1 is available; you have %2. Download it from %3").arg(available, running, page.toString());
+    } else {
+        //: %1 is the new version, %2 the version running.
+        m_lastOutcomeText = tr("Velto %1 is available; you have %2.").arg(available, running);
+    }
     m_lastCheckFailed = false;
     if (m_delegate)
         m_delegate->didFindValidUpdate(item);

@@ -1,5 +1,6 @@
 #include "UpdateWindow.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QNetworkAccessManager>
@@ -42,6 +43,7 @@ UpdateFoundDialog::UpdateFoundDialog(const AppcastItem& item, const QString& hos
     setObjectName(u"updateFoundDialog"_s);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(headlineLabel(tr("A new version of Velto is available"), this));
+    //: %1 is the new version, %2 the version running.
     layout->addWidget(bodyLabel(tr("Velto %1 is available; you have %2. Download it from the website to update.")
                                     .arg(item.displayVersionString(), hostVersion),
                                 this));
@@ -56,9 +58,10 @@ UpdateFoundDialog::UpdateFoundDialog(const AppcastItem& item, const QString& hos
     }
 
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* skip = buttons->addButton(u"Skip This Version"_s, QDialogButtonBox::DestructiveRole);
-    QPushButton* later = buttons->addButton(u"Remind Me Later"_s, QDialogButtonBox::RejectRole);
-    QPushButton* download = buttons->addButton(u"Download"_s, QDialogButtonBox::AcceptRole);
+    QPushButton* skip = buttons->addButton(tr("Skip This Version"), QDialogButtonBox::DestructiveRole);
+    QPushButton* later = buttons->addButton(tr("Remind Me Later"), QDialogButtonBox::RejectRole);
+    //: Verb, on a button: open the page the new version is downloaded from.
+    QPushButton* download = buttons->addButton(tr("Download"), QDialogButtonBox::AcceptRole);
     download->setDefault(true);
     connect(skip, &QPushButton::clicked, this, [this] { choose(UpdateChoice::Skip); });
     connect(later, &QPushButton::clicked, this, [this] { choose(UpdateChoice::Dismiss); });
@@ -141,15 +144,20 @@ void UpdateWindowDriver::showUpdateFound(const AppcastItem& item, std::function<
 void UpdateWindowDriver::showUpdateNotFound(const UpdateError& error)
 {
     const int reason = error.userInfo.value(UpdaterErrors::noUpdateFoundReasonKey.toString()).toInt();
-    const QString text = reason == int(NoUpdateFoundReason::SystemTooOld)
-                             ? QObject::tr("A newer version of Velto exists but needs a newer system than this one.")
-                             : QObject::tr("Velto %1 is the newest version available.").arg(m_hostVersion);
-    present(new UpdateMessageDialog(QObject::tr("Velto is up to date"), text));
+    const QString text =
+        reason == int(NoUpdateFoundReason::SystemTooOld)
+            ? QCoreApplication::translate("UpdateWindow",
+                                          "A newer version of Velto exists but needs a newer system than this one.")
+            //: %1 is the version running, such as 1.2.0.
+            : QCoreApplication::translate("UpdateWindow", "Velto %1 is the newest version available.")
+                  .arg(m_hostVersion);
+    present(new UpdateMessageDialog(QCoreApplication::translate("UpdateWindow", "Velto is up to date"), text));
 }
 
 void UpdateWindowDriver::showUpdaterError(const UpdateError& error)
 {
-    present(new UpdateMessageDialog(QObject::tr("Velto could not check for updates"), error.description));
+    present(new UpdateMessageDialog(QCoreApplication::translate("UpdateWindow", "Velto could not check for updates"),
+                                    error.description));
 }
 
 void UpdateWindowDriver::fetchReleaseNotes(const QUrl& url, UpdateFoundDialog* dialog)
