@@ -82,10 +82,12 @@ void AppDelegate::applicationDidFinishLaunching()
     });
     // Without any display the start-up has already said there is no tray icon.
     connect(m_trayHostWatch, &SystemTrayHostWatch::noHostAtStart, this, [] {
-        if (QGuiApplication::platformName() != u"offscreen"_s)
-            std::fputs("velto: no system tray found yet; breaks still run, `velto settings` opens the settings, "
-                       "and the icon appears when a tray does\n",
-                       stderr);
+        if (QGuiApplication::platformName() != u"offscreen"_s) {
+            //: Said on standard error at start, after "velto: ". `velto settings` is a command: keep it as it is.
+            const QString text = tr("no system tray found yet; breaks still run, `velto settings` opens the settings, "
+                                    "and the icon appears when a tray does");
+            std::fprintf(stderr, "velto: %s\n", qPrintable(text));
+        }
     });
     // Where no tray exists, Velto's GNOME Shell extension draws an indicator from the same icon and menu.
     m_shellIndicator = new ShellIndicator(this);
@@ -483,7 +485,8 @@ void AppDelegate::checkForUpdates(std::function<void(bool, const QString&)> done
 {
     Updater* updater = m_updaterController ? m_updaterController->updater() : nullptr;
     if (!updater) {
-        done(false, u"this Velto does not check for updates; the system's package manager updates it"_s);
+        //: The answer to `velto check-updates` when Velto came from a distribution's package.
+        done(false, tr("this Velto does not check for updates; the system's package manager updates it"));
         return;
     }
     // The same check as the About pane's button, told on the command line instead of in a window. A check

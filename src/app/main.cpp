@@ -43,6 +43,11 @@ void setApplicationIdentity()
     QCoreApplication::setApplicationVersion(QString::fromLatin1(velto::versionString));
 }
 
+void printStartUpNotice(const QString& text)
+{
+    std::fprintf(stderr, "velto: %s\n", qPrintable(text));
+}
+
 // A command for the running instance: no GUI, no display needed.
 int runClient(const velto::CommandLine& commandLine)
 {
@@ -97,11 +102,16 @@ int runApplication(int argc, char* argv[])
         return velto::ControlClient(QDBusConnection::sessionBus()).handOver(out, err);
     }
     case velto::ControlService::Registration::NoBus:
-        std::fputs("velto: no session bus; running, but cannot make sure no other Velto runs\n", stderr);
+        printStartUpNotice(
+            //: Said on standard error at start, after "velto: ".
+            QCoreApplication::translate("StartUp",
+                                        "no session bus; running, but cannot make sure no other Velto runs"));
         break;
     }
     if (headless)
-        std::fputs("velto: no display found; running without a tray icon\n", stderr);
+        printStartUpNotice(
+            //: Said on standard error at start, after "velto: ".
+            QCoreApplication::translate("StartUp", "no display found; running without a tray icon"));
 
     velto::AppDelegate delegate(velto::AppServices::system());
     control.setTarget(&delegate);

@@ -2,9 +2,9 @@
 
 #include "settings/RunEnvironment.h"
 
-#include <cstdio>
+#include <QCoreApplication>
 
-using namespace Qt::Literals::StringLiterals;
+#include <cstdio>
 
 namespace velto {
 
@@ -29,7 +29,8 @@ void LaunchAtLoginService::setEnabled(bool enabled)
     if (isContinuousIntegration(m_environment) || isRunningTestSuite(m_environment) || !m_registrar)
         return;
     if (const std::optional<QString> error = m_registrar->setRegistered(enabled))
-        m_printLine(u"Failed to update launch at login: "_s + *error);
+        //: A line on standard output; %1 is the reason, such as "Could not write …".
+        m_printLine(QCoreApplication::translate("LaunchAtLogin", "Failed to update launch at login: %1").arg(*error));
 }
 
 bool LaunchAtLoginService::isTurnedOffElsewhere() const

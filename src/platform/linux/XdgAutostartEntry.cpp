@@ -1,5 +1,6 @@
 #include "XdgAutostartEntry.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -99,24 +100,31 @@ std::optional<QString> XdgAutostartEntry::setRegistered(bool registered)
     const QString path = entryPath();
     // The entry earlier versions wrote goes either way: one entry, under the application's id.
     if (QFile legacy(legacyEntryPath()); legacy.exists() && !legacy.remove())
-        return u"Could not remove %1: %2"_s.arg(legacy.fileName(), legacy.errorString());
+        //: Why launch at login could not be changed: %1 is a file's path, %2 the system's reason.
+        return QCoreApplication::translate("LaunchAtLogin", "Could not remove %1: %2")
+            .arg(legacy.fileName(), legacy.errorString());
     if (!registered) {
         // No entry is what was asked for: launch at login off is the state of every fresh account.
         QFile entry(path);
         if (!entry.exists())
             return std::nullopt;
         if (!entry.remove())
-            return u"Could not remove %1: %2"_s.arg(path, entry.errorString());
+            return QCoreApplication::translate("LaunchAtLogin", "Could not remove %1: %2")
+                .arg(path, entry.errorString());
         return std::nullopt;
     }
     if (!QDir().mkpath(m_autostartDirectory))
-        return u"Could not create the autostart folder %1"_s.arg(m_autostartDirectory);
+        //: %1 is the folder's path.
+        return QCoreApplication::translate("LaunchAtLogin", "Could not create the autostart folder %1")
+            .arg(m_autostartDirectory);
     QSaveFile entry(path);
     if (!entry.open(QIODevice::WriteOnly))
-        return u"Could not write %1: %2"_s.arg(path, entry.errorString());
+        //: %1 is a file's path, %2 the system's reason.
+        return QCoreApplication::translate("LaunchAtLogin", "Could not write %1: %2").arg(path, entry.errorString());
     entry.write(entryContents());
     if (!entry.commit())
-        return u"Could not write %1: %2"_s.arg(path, entry.errorString());
+        //: %1 is a file's path, %2 the system's reason.
+        return QCoreApplication::translate("LaunchAtLogin", "Could not write %1: %2").arg(path, entry.errorString());
     return std::nullopt;
 }
 
