@@ -4,6 +4,7 @@
 #include "StandardUpdaterController.h"
 #include "SystemSleepSignals.h"
 #include "SystemTrayHostWatch.h"
+#include "Translations.h"
 #include "UpdateAvailabilityModel.h"
 #include "UpdateWindow.h"
 #include "VeltoWindows.h"
@@ -387,9 +388,13 @@ QString rawName(Enum value)
 
 ControlStatus AppDelegate::controlStatus() const
 {
-    const QList<StatusMenuItem> items = statusMenuItems();
     ControlStatus status;
-    status.statusLine = items.value(0).title;
+    status.localStatusLine = statusMenuItems().value(0).title;
+    {
+        // For scripts: the same in every language.
+        const ScopedEnglishTexts english;
+        status.statusLine = statusMenuItems().value(0).title;
+    }
     status.timeText = menuBarPresentation().timeText;
     status.state = rawName(m_breakManager->state());
     if (const auto reason = m_breakManager->pauseReason())

@@ -7,6 +7,34 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
+namespace {
+
+int englishScopes = 0;
+
+// Asked before every other translator; answers only inside a ScopedEnglishTexts, with English.
+class EnglishOnRequest final : public QTranslator {
+public:
+    explicit EnglishOnRequest(QTranslator* english, QObject* parent)
+        : QTranslator(parent)
+        , m_english(english)
+    {}
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+
+    [[nodiscard]] QString translate(const char* context, const char* sourceText, const char* disambiguation,
+                                    int n) const override
+    {
+        if (englishScopes == 0)
+            return {};
+        QString text = m_english ? m_english->translate(context, sourceText, disambiguation, n) : QString();
+        return text.isEmpty() ? QString::fromUtf8(sourceText) : text;
+    }
+
+private:
+    QTranslator* m_english;
+};
+
+} // namespace
 
 void installTranslations(QCoreApplication& application)
 {
@@ -19,6 +47,17 @@ void installTranslations(QCoreApplication& application)
         QCoreApplication::installTranslator(translator);
     else
         delete translator;
+    QCoreApplication::installTranslator(new EnglishOnRequest(english, &application));
+}
+
+ScopedEnglishTexts::ScopedEnglishTexts()
+{
+    ++englishScopes;
+}
+
+ScopedEnglishTexts::~ScopedEnglishTexts()
+{
+    --englishScopes;
 }
 
 } // namespace velto

@@ -8,4 +8,14 @@ namespace velto {
 // system locale) before anything shows one; English keeps its own texts, with their plural forms.
 void installTranslations(QCoreApplication& application);
 
+// While one exists, Velto's texts come out in English whatever the user's language: for what scripts read
+// (`velto status --json`), which must not change with the language. Main thread.
+class ScopedEnglishTexts final {
+public:
+    ScopedEnglishTexts();
+    ~ScopedEnglishTexts();
+    ScopedEnglishTexts(const ScopedEnglishTexts&) = delete;
+    ScopedEnglishTexts& operator=(const ScopedEnglishTexts&) = delete;
+};
+
 } // namespace velto

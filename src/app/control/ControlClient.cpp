@@ -174,7 +174,8 @@ QString ControlClient::statusText(const ControlStatus& status)
     qsizetype width = 0;
     for (const auto& [label, value] : rows)
         width = std::max(width, label.size());
-    QString text = status.statusLine + u'\n';
+    // An older Velto sends the status line only once.
+    QString text = (status.localStatusLine.isEmpty() ? status.statusLine : status.localStatusLine) + u'\n';
     for (const auto& [label, value] : rows)
         text += label.leftJustified(width + 1) + value + u'\n';
     return text;

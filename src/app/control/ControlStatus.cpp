@@ -10,9 +10,14 @@ namespace velto {
 QVariantMap ControlStatus::toVariantMap() const
 {
     return {
-        {u"statusLine"_s, statusLine},   {u"timeText"_s, timeText},       {u"state"_s, state},
-        {u"pauseReason"_s, pauseReason}, {u"breaksToday"_s, breaksToday}, {u"enabled"_s, enabled},
+        {u"statusLine"_s, statusLine},
+        {u"timeText"_s, timeText},
+        {u"state"_s, state},
+        {u"pauseReason"_s, pauseReason},
+        {u"breaksToday"_s, breaksToday},
+        {u"enabled"_s, enabled},
         {u"detection"_s, detection},
+        {u"localStatusLine"_s, localStatusLine},
     };
 }
 
@@ -24,6 +29,7 @@ ControlStatus ControlStatus::fromVariantMap(const QVariantMap& map)
     };
     ControlStatus status;
     status.statusLine = text(u"statusLine"_s);
+    status.localStatusLine = text(u"localStatusLine"_s);
     status.timeText = text(u"timeText"_s);
     status.state = text(u"state"_s);
     status.pauseReason = text(u"pauseReason"_s);

@@ -12,6 +12,7 @@ namespace velto {
 struct ControlStatus {
     Q_GADGET
     Q_PROPERTY(QString statusLine MEMBER statusLine)
+    Q_PROPERTY(QString localStatusLine MEMBER localStatusLine)
     Q_PROPERTY(QString timeText MEMBER timeText)
     Q_PROPERTY(QString state MEMBER state)
     Q_PROPERTY(QString pauseReason MEMBER pauseReason)
@@ -19,7 +20,7 @@ struct ControlStatus {
     Q_PROPERTY(bool enabled MEMBER enabled)
 
 public:
-    QString statusLine;
+    QString statusLine; // in English, for scripts
     QString timeText;
     QString state;       // "idle", "working", "onBreak" or "paused"
     QString pauseReason; // "manuallyPaused", "outsideOfficeHours", "appDisabled", "smartActivity"; empty for none
@@ -28,6 +29,8 @@ public:
     // Which mechanism answers each Smart Pause capability in this session ("windows" → "wlr-foreign-toplevel"),
     // for bug reports.
     QVariantMap detection;
+    // The status line in the user's language, for people.
+    QString localStatusLine;
 
     // The record as it travels on the bus (a{sv}, keyed by the field names). Missing or mistyped entries read
     // back as the defaults, so an older or newer peer never makes the client fail.
