@@ -9,6 +9,11 @@ ColumnLayout {
     required property SettingsPaneModel paneModel
     readonly property var schedule: paneModel.schedule
 
+    // The days Sunday first, turned to start on firstDay (0 for Sunday, as Qt's locales count).
+    function weekStartingOn(firstDay, days) {
+        return days.slice(firstDay).concat(days.slice(0, firstDay));
+    }
+
     spacing: 18
 
     PaneHeader {
@@ -60,8 +65,9 @@ ColumnLayout {
                 wrapMode: Text.WordWrap
             }
             Repeater {
-                // The short day names used elsewhere in Velto, translated once.
-                model: [
+                // The short day names used elsewhere in Velto, translated once, in the week of the user's
+                // locale: starting on its first day (Sunday in the US, Monday in most of Europe).
+                model: pane.weekStartingOn(Qt.locale().firstDayOfWeek, [
                     //: Sunday, shortened for a small toggle of the office-hours days.
                     { day: 1, title: qsTranslate("Weekday", "Sun") },
                     //: Monday, shortened for a small toggle of the office-hours days.
@@ -76,7 +82,7 @@ ColumnLayout {
                     { day: 6, title: qsTranslate("Weekday", "Fri") },
                     //: Saturday, shortened for a small toggle of the office-hours days.
                     { day: 7, title: qsTranslate("Weekday", "Sat") }
-                ]
+                ])
                 delegate: TintedButton {
                     required property var modelData
                     text: modelData.title

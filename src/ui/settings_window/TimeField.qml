@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// An hour and minute picker: two spin boxes, 24-hour, reporting every change.
+// An hour and minute picker: two spin boxes reporting every change. The hour reads as the user's locale writes
+// it, "14" or "2 PM"; the value is the hour of the day either way.
 RowLayout {
     id: field
 
@@ -10,6 +11,9 @@ RowLayout {
     property int hour
     property int minute
     signal edited(int hour, int minute)
+
+    // Where the locale's times carry AM/PM, its clock has twelve hours.
+    readonly property bool twelveHours: /a/i.test(Qt.locale().timeFormat(Locale.ShortFormat))
 
     spacing: 4
 
@@ -21,8 +25,19 @@ RowLayout {
         to: 23
         editable: true
         value: field.hour
-        Layout.preferredWidth: 66
-        textFromValue: (value, locale) => String(value).padStart(2, "0")
+        Layout.preferredWidth: field.twelveHours ? 96 : 66
+        textFromValue: (value, locale) => field.twelveHours
+                       ? (value % 12 || 12) + " " + (value < 12 ? locale.amText : locale.pmText)
+                       : String(value).padStart(2, "0")
+        valueFromText: (text, locale) => {
+            const number = parseInt(text, 10);
+            if (isNaN(number))
+                return value;
+            if (!field.twelveHours)
+                return number;
+            const afternoon = text.toLowerCase().includes(locale.pmText.toLowerCase());
+            return number % 12 + (afternoon ? 12 : 0);
+        }
         //: Spoken name of the hour box of a time; %1 is the time's label, Start or End.
         Accessible.name: qsTr("%1 hour").arg(field.text)
         onValueModified: {

@@ -12,6 +12,8 @@
 #include "settings/SettingsManager.h"
 
 #include <QAccessible>
+#include <QJSEngine>
+#include <QJSValue>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScopeGuard>
@@ -331,17 +333,47 @@ private Q_SLOTS:
         QTRY_VERIFY(!f.paneModel()->showLockScreenAlert());
     }
 
-    void officeHoursRowsAppearWithTheSwitch()
+    void officeHoursFollowTheSwitchAndTheLocale_data()
     {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("firstDay");
+        QTest::addColumn<QString>("nineAm");
+        QTest::newRow("US: Sunday first, 12-hour clock") << u"en_US"_s << u"Sun"_s << u"9 AM"_s;
+        QTest::newRow("Germany: Monday first, 24-hour clock") << u"de_DE"_s << u"Mon"_s << u"09"_s;
+    }
+
+    void officeHoursFollowTheSwitchAndTheLocale()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, firstDay);
+        QFETCH(QString, nineAm);
+        const QLocale saved;
+        QLocale::setDefault(QLocale(locale));
         Fixture f;
+        Schedule schedule = f.settings.schedule();
+        schedule.startTime = {9, 0};
+        f.settings.setSchedule(schedule);
         f.open();
         QObject* pane = f.pane(0);
         QObject* days = pane->findChild<QObject*>(u"activeDays"_s);
         QVERIFY(!isShown(days));
         toggle(pane->findChild<QObject*>(u"useOfficeHours"_s), true);
         QVERIFY(isShown(days));
+        // The day names stay in Velto's language (English here); their order is the locale's week.
+        const QList<QQuickItem*> row = qobject_cast<QQuickItem*>(days)->childItems();
+        QCOMPARE(row.value(1)->property("text").toString(), firstDay);
+
+        auto* hour = pane->findChild<QObject*>(u"startTime"_s)->findChild<QObject*>(u"hour"_s);
+        QCOMPARE(hour->property("displayText").toString(), nineAm);
+        // What is typed reads the same way, and the hour of the day is stored.
+        QJSValue read = hour->property("valueFromText").value<QJSValue>();
+        const QJSValue typed =
+            read.call({locale == u"en_US"_s ? u"3 PM"_s : u"15"_s, qjsEngine(hour)->toScriptValue(QLocale(locale))});
+        QCOMPARE(typed.toInt(), 15);
+        QCOMPARE(f.settings.schedule().startTime.hour, 9);
         toggle(pane->findChild<QObject*>(u"useOfficeHours"_s), false);
         QVERIFY(!isShown(days));
+        QLocale::setDefault(saved);
     }
 
     void resetFromTheGeneralPaneRestoresTheStoreAndTheControls()
