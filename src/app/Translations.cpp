@@ -1,6 +1,7 @@
 #include "Translations.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -42,6 +43,12 @@ void installTranslations(QCoreApplication& application)
     auto* english = new QTranslator(&application);
     if (english->load(u":/velto/i18n/velto_en.qm"_s))
         QCoreApplication::installTranslator(english);
+    // Qt's own texts (the OK of a message box), where the system has them.
+    auto* qt = new QTranslator(&application);
+    if (qt->load(QLocale::system(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(qt);
+    else
+        delete qt;
     auto* translator = new QTranslator(&application);
     if (translator->load(QLocale::system(), u"velto"_s, u"_"_s, u":/velto/i18n"_s) && translator->language() != u"en"_s)
         QCoreApplication::installTranslator(translator);
