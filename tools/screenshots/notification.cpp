@@ -2,6 +2,7 @@
 // Usage: velto_screenshots_notification OUTPUT_DIR
 #include "InAppNotificationWindowPresenter.h"
 #include "PreBreakNotificationHostingView.h"
+#include "ScreenshotLanguage.h"
 #include "notification/PreBreakNotificationDisplayModel.h"
 
 #include <QDir>
@@ -51,6 +52,7 @@ int main(int argc, char** argv)
     // Velto's icon, as the application sets it at start.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(VELTO_APP_ICON)));
     const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
+    const QString language = useScreenshotLanguage();
     QDir().mkpath(outputDir);
 
     const QList<Shot> shots = {
@@ -83,7 +85,7 @@ int main(int argc, char** argv)
         unscaled.setDevicePixelRatio(1);
         painter.drawImage(48, 48, unscaled);
         painter.end();
-        const QString path = outputDir + u'/' + shot.name + u".png"_s;
+        const QString path = outputDir + u'/' + shot.name + language + u".png"_s;
         if (!framed.save(path)) {
             std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
             return 1;

@@ -2,6 +2,7 @@
 // Usage: velto_screenshots_settings OUTPUT_DIR [DESKTOP WINDOWS TYPING]
 // The optional three show the panes as on that desktop with those window and typing sources.
 #include "InMemoryUserDefaults.h"
+#include "ScreenshotLanguage.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
 #include "detection/ApplicationInfoProviding.h"
@@ -109,6 +110,7 @@ int main(int argc, char** argv)
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(VELTO_APP_ICON)));
     QCoreApplication::setApplicationVersion(u"0.1.0"_s);
     const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
+    const QString language = useScreenshotLanguage();
     QDir().mkpath(outputDir);
 
     InMemoryUserDefaults store;
@@ -166,7 +168,8 @@ int main(int argc, char** argv)
             window->setMaximumHeight(4000);
             window->resize(window->width(), std::max(580, paneHeight + 90));
             QTest::qWait(150);
-            const QString path = outputDir + u"/settings-"_s + tabs.at(tab) + (dark ? u"-dark.png"_s : u"-light.png"_s);
+            const QString path =
+                outputDir + u"/settings-"_s + tabs.at(tab) + (dark ? u"-dark"_s : u"-light"_s) + language + u".png"_s;
             if (!window->grabWindow().save(path)) {
                 std::fprintf(stderr, "could not write %s\n", qPrintable(path));
                 ++failures;
@@ -182,7 +185,7 @@ int main(int argc, char** argv)
                     model->setProperty("selectedBundleId", u"org.mozilla.firefox"_s);
                 QTest::qWait(150);
                 const QString sheetPath =
-                    outputDir + u"/settings-add-focus-app"_s + (dark ? u"-dark.png"_s : u"-light.png"_s);
+                    outputDir + u"/settings-add-focus-app"_s + (dark ? u"-dark"_s : u"-light"_s) + language + u".png"_s;
                 if (!window->grabWindow().save(sheetPath))
                     ++failures;
                 QMetaObject::invokeMethod(sheet, "close");

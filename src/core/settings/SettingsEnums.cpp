@@ -64,17 +64,18 @@ QString shortTitle(Weekday day)
     return {};
 }
 
-// Not translated yet: the focus-app row and the add-app sheet have no room for a longer picker beside the app's
-// name and its label.
 QString rowTitle(DeepFocusMode mode)
 {
     switch (mode) {
     case DeepFocusMode::WhenForegroundFullscreen:
-        return u"Foreground & Fullscreen"_s;
+        //: A focus app's picker beside its name: it holds breaks while in front and fullscreen.
+        return QCoreApplication::translate("FocusAppMode", "Foreground & Fullscreen");
     case DeepFocusMode::WhenForeground:
-        return u"In Foreground"_s;
+        //: A focus app's picker beside its name: it holds breaks while in front.
+        return QCoreApplication::translate("FocusAppMode", "In Foreground");
     case DeepFocusMode::WhenOpen:
-        return u"When Open"_s;
+        //: A focus app's picker beside its name: it holds breaks while it runs.
+        return QCoreApplication::translate("FocusAppMode", "When Open");
     }
     return {};
 }
@@ -83,11 +84,14 @@ QString sheetTitle(DeepFocusMode mode)
 {
     switch (mode) {
     case DeepFocusMode::WhenForegroundFullscreen:
-        return u"When in Foreground & Fullscreen"_s;
+        //: When a focus app being added holds breaks: while in front and fullscreen.
+        return QCoreApplication::translate("FocusAppMode", "When in Foreground & Fullscreen");
     case DeepFocusMode::WhenForeground:
-        return u"When in Foreground"_s;
+        //: When a focus app being added holds breaks: while in front.
+        return QCoreApplication::translate("FocusAppMode", "When in Foreground");
     case DeepFocusMode::WhenOpen:
-        return u"When Open"_s;
+        //: When a focus app being added holds breaks: while it runs.
+        return QCoreApplication::translate("FocusAppMode", "When Open");
     }
     return {};
 }

@@ -205,7 +205,8 @@ Popup {
                     Layout.fillWidth: true
                     //: Followed by a picker of when the chosen app holds breaks back ("When in Foreground"…).
                     text: qsTr("Pause breaks")
-                    wrapMode: Text.WordWrap
+                    // Beside a long picker in another language, even within a word.
+                    wrapMode: Text.Wrap
                     font.pixelSize: Theme.rowSize
                 }
                 ComboBox {

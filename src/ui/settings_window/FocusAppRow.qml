@@ -30,6 +30,9 @@ RowLayout {
         Layout.fillWidth: true
         text: row.app.name || ""
         font.pixelSize: Theme.rowSize
+        // A long name, or a long picker in another language, takes a second line rather than a cut.
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         elide: Text.ElideRight
     }
     ComboBox {
