@@ -38,6 +38,12 @@ screenshots: build
 	$(BUILD_DIR)/tools/screenshots/velto_screenshots_tray docs/screenshots
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots_notification docs/screenshots
 	QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software $(BUILD_DIR)/tools/screenshots/velto_screenshots_settings docs/screenshots
+	for language in de ja; do \
+		export VELTO_SCREENSHOT_LANGUAGE=$$language QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software; \
+		$(BUILD_DIR)/tools/screenshots/velto_screenshots_settings /tmp/velto-shots-$$language && \
+		$(BUILD_DIR)/tools/screenshots/velto_screenshots_notification /tmp/velto-shots-$$language && \
+		for name in settings-general-light settings-smart-pause-light notification-short-light; do \
+			cp /tmp/velto-shots-$$language/$$name-$$language.png docs/screenshots/; done; done
 	tools/screenshots/sway.sh $(BUILD_DIR) docs/screenshots
 	tools/screenshots/gnome.sh $(BUILD_DIR) docs/screenshots
 

@@ -5,81 +5,81 @@
     <name>AboutPane</name>
     <message>
         <source>Velto is a small menu bar companion for sustainable focus and breaks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto è un piccolo compagno nell&apos;area di notifica per una concentrazione sostenibile e pause regolari.</translation>
     </message>
     <message>
         <source>Website %1</source>
         <extracomment>Spoken name of the website link; %1 is the site&apos;s address without &quot;https://&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sito web %1</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Sito web</translation>
     </message>
     <message>
         <source>Send Feedback to %1</source>
         <extracomment>Spoken name of the feedback link; %1 is an e-mail address.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Invia un commento a %1</translation>
     </message>
     <message>
         <source>Send Feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Invia un commento</translation>
     </message>
     <message>
         <source>Version</source>
         <extracomment>Velto&apos;s version number follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Versione</translation>
     </message>
     <message>
         <source>Version %1</source>
         <extracomment>Spoken name of the version number; %1 is the number, like 1.4 (27).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Versione %1</translation>
     </message>
     <message>
         <source>A newer build is available</source>
-        <translation type="unfinished"></translation>
+        <translation>È disponibile una versione più recente</translation>
     </message>
     <message>
         <source>Review update</source>
         <extracomment>A button: look at the newer version before installing it (&quot;Review&quot; is a verb).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Esamina l&apos;aggiornamento</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlla aggiornamenti…</translation>
     </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>
     <message>
         <source>Add Focus App</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi app di concentrazione</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Search apps…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca app…</translation>
     </message>
     <message>
         <source>Search apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca app</translation>
     </message>
     <message>
         <source>Running apps</source>
         <extracomment>Spoken name of the list of applications running now.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>App in esecuzione</translation>
     </message>
     <message>
         <source>Pause breaks</source>
         <extracomment>Followed by a picker of when the chosen app holds breaks back (&quot;When in Foreground&quot;…).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi le pause</translation>
     </message>
     <message>
         <source>Add App</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi app</translation>
     </message>
 </context>
 <context>
@@ -87,222 +87,222 @@
     <message>
         <source>Velto lives in the system tray and counts down your work time. A minute before a break it shows a small card that lets you take the break now, put it off for a minute or three, or skip it. When the time is up, a calm break screen covers your displays and counts down a short break, or a long one every few breaks.</source>
         <comment>software centre description, first paragraph</comment>
-        <translation type="unfinished"></translation>
+        <translation>Velto risiede nell&apos;area di notifica e fa il conto alla rovescia del tuo tempo di lavoro. Un minuto prima di una pausa mostra un piccolo riquadro che ti permette di fare subito la pausa, di rimandarla di uno o tre minuti oppure di saltarla. Allo scadere del tempo, una schermata di pausa rilassante copre i tuoi schermi e scandisce una pausa breve, oppure una pausa lunga dopo alcune pause brevi.</translation>
     </message>
     <message>
         <source>Smart Pause holds the countdown while a break would be rude: during a call or meeting, while a video plays, while the screen is recorded, in a fullscreen game, in an application you chose to focus on, and while you are away. Office hours limit reminders to the days and times you work.</source>
         <comment>software centre description, second paragraph</comment>
-        <translation type="unfinished"></translation>
+        <translation>Smart Pause ferma il conto alla rovescia quando una pausa sarebbe inopportuna: durante una chiamata o una riunione, mentre guardi un video, mentre lo schermo viene registrato, in un gioco a schermo intero, in un&apos;applicazione su cui hai scelto di concentrarti e mentre sei lontano. L&apos;orario di lavoro limita i promemoria ai giorni e alle ore in cui lavori.</translation>
     </message>
     <message>
         <source>Velto can also be driven from a terminal or a script: velto status, velto break, velto pause and more.</source>
         <comment>software centre description; the commands stay in English</comment>
-        <translation type="unfinished"></translation>
+        <translation>Velto si può controllare anche da un terminale o da uno script: velto status, velto break, velto pause e altri comandi.</translation>
     </message>
     <message>
         <source>A short break covers the screen and counts down</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Una pausa breve copre lo schermo e fa il conto alla rovescia</translation>
     </message>
     <message>
         <source>A minute before a break, a card offers to take it now, put it off or skip it</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Un minuto prima di una pausa, un riquadro propone di farla subito, di rimandarla o di saltarla</translation>
     </message>
     <message>
         <source>The tray menu</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Il menu nell&apos;area di notifica</translation>
     </message>
     <message>
         <source>Smart Pause holds breaks during calls, videos, recordings and games</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Smart Pause sospende le pause durante chiamate, video, registrazioni e giochi</translation>
     </message>
     <message>
         <source>On GNOME without a tray, Velto shows in the top bar</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Su GNOME senza area di notifica, Velto appare nella barra superiore</translation>
     </message>
     <message>
         <source>The first release.</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>La prima versione.</translation>
     </message>
     <message>
         <source>A tray countdown, a pre-break card, and short and long break screens on every display</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>Un conto alla rovescia nell&apos;area di notifica, un riquadro prima della pausa e schermate di pausa breve e lunga su ogni schermo</translation>
     </message>
     <message>
         <source>Smart Pause on X11, on Wayland (sway and other wlroots compositors, KDE Plasma) and on GNOME through Velto&apos;s own Shell extension</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>Smart Pause su X11, su Wayland (sway e altri compositor wlroots, KDE Plasma) e su GNOME tramite l&apos;estensione GNOME Shell di Velto</translation>
     </message>
     <message>
         <source>Office hours, presets, chimes, screen lock, launch at login and a command line</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>Orario di lavoro, profili, suoni, blocco dello schermo, avvio all&apos;accesso e riga di comando</translation>
     </message>
 </context>
 <context>
     <name>AppearancePane</name>
     <message>
         <source>Personalize your break screen to make every pause feel intentional.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizza la schermata di pausa per rendere ogni pausa un momento consapevole.</translation>
     </message>
     <message>
         <source>Background</source>
         <extracomment>The break screen&apos;s background.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sfondo</translation>
     </message>
     <message>
         <source>Style</source>
         <extracomment>The kind of background: paper, gradient…</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Stile</translation>
     </message>
     <message>
         <source>Theme</source>
         <extracomment>The colours of the gradient background.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tema</translation>
     </message>
     <message>
         <source>Dim level</source>
         <extracomment>How much the break screen&apos;s background is darkened.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Livello di oscuramento</translation>
     </message>
     <message>
         <source>Display</source>
         <extracomment>Which screens show the break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schermi</translation>
     </message>
     <message>
         <source>Show break on</source>
         <extracomment>Followed by a picker: all displays or the primary display only.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la pausa su</translation>
     </message>
     <message>
         <source>Messages</source>
         <extracomment>The lines the break screen shows, one picked at random.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Messaggi</translation>
     </message>
     <message>
         <source>Your messages:</source>
-        <translation type="unfinished"></translation>
+        <translation>I tuoi messaggi:</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Messaggio</translation>
     </message>
     <message>
         <source>Message %1</source>
         <extracomment>Spoken name of a message field; %1 is its position in the list, from 1.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Messaggio %1</translation>
     </message>
     <message>
         <source>Remove message %1</source>
         <extracomment>Spoken name of the button that removes a message; %1 is its position in the list, from 1.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi il messaggio %1</translation>
     </message>
     <message>
         <source>Add</source>
         <extracomment>Adds a message to the list.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi</translation>
     </message>
 </context>
 <context>
     <name>BreakBackground</name>
     <message>
         <source>Paper Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta chiara</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfumatura</translation>
     </message>
     <message>
         <source>Paper Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta scura</translation>
     </message>
     <message>
         <source>Solid Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Tinta unita</translation>
     </message>
     <message>
         <source>Custom Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine personalizzata</translation>
     </message>
     <message>
         <source>System Wallpaper</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfondo di sistema</translation>
     </message>
 </context>
 <context>
     <name>BreakMessage</name>
     <message>
         <source>Rest your eyes and take a deep breath</source>
-        <translation type="unfinished"></translation>
+        <translation>Riposa gli occhi e fai un respiro profondo</translation>
     </message>
     <message>
         <source>Look at something 20 feet away</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda qualcosa a sei metri di distanza</translation>
     </message>
     <message>
         <source>Blink slowly and relax your eyes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sbatti lentamente le palpebre e rilassa gli occhi</translation>
     </message>
     <message>
         <source>Stretch your shoulders and neck</source>
-        <translation type="unfinished"></translation>
+        <translation>Sciogli le spalle e il collo</translation>
     </message>
     <message>
         <source>You&apos;re doing great! Keep up the healthy habits</source>
-        <translation type="unfinished"></translation>
+        <translation>Ottimo lavoro! Continua così con le buone abitudini</translation>
     </message>
     <message>
         <source>Look away, not at your phone</source>
         <extracomment>A playful line on the screen of a short break, for a user without messages of their own; adapt freely.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Distogli lo sguardo, ma non sul telefono</translation>
     </message>
     <message>
         <source>Your retinas called</source>
         <extracomment>A joke on &quot;… called, they want their … back&quot;: the eyes ask for rest.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hanno chiamato le tue retine: rivogliono un po&apos; di riposo</translation>
     </message>
     <message>
         <source>Eyes go brrrr</source>
         <extracomment>Playful: tired eyes making a whirring noise.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Occhi in tilt</translation>
     </message>
     <message>
         <source>Let&apos;s not make deals with our vision</source>
-        <translation type="unfinished"></translation>
+        <translation>Non scendiamo a patti con la vista</translation>
     </message>
     <message>
         <source>Stare into the distance like a poet</source>
-        <translation type="unfinished"></translation>
+        <translation>Fissa l&apos;orizzonte come un poeta</translation>
     </message>
     <message>
         <source>Your desk chair is judging you</source>
         <extracomment>A playful line on the screen of a long break, for a user without messages of their own; adapt freely.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>La tua sedia ti sta giudicando</translation>
     </message>
     <message>
         <source>The floor is waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Il pavimento ti aspetta</translation>
     </message>
     <message>
         <source>Gravity wants to see you stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>La gravità vuole vederti fare stretching</translation>
     </message>
     <message>
         <source>Adventure awaits (in your living room)</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;avventura ti aspetta (in salotto)</translation>
     </message>
     <message>
         <source>Time to touch grass (literally)</source>
         <extracomment>&quot;Touch grass&quot;: go outside, away from the screen.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>È ora di toccare l&apos;erba (letteralmente)</translation>
     </message>
 </context>
 <context>
@@ -310,33 +310,33 @@
     <message>
         <source>Balanced</source>
         <extracomment>A preset of break settings.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Equilibrato</translation>
     </message>
     <message>
         <source>Deep Focus</source>
         <extracomment>A preset of break settings: long stretches of work between breaks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Concentrazione profonda</translation>
     </message>
     <message>
         <source>Eye Care</source>
         <extracomment>A preset of break settings: frequent short breaks to rest the eyes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cura degli occhi</translation>
     </message>
     <message>
         <source>Custom</source>
         <extracomment>Shown as the preset when the break settings match none of the others.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Personalizzato</translation>
     </message>
 </context>
 <context>
     <name>BreakScreens</name>
     <message>
         <source>All Screens</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti gli schermi</translation>
     </message>
     <message>
         <source>Main Screen Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo schermo principale</translation>
     </message>
 </context>
 <context>
@@ -344,180 +344,180 @@
     <message>
         <source>Skip</source>
         <extracomment>A button on the break screen: skip the rest of this break and go back to work.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salta</translation>
     </message>
     <message>
         <source>End Break</source>
         <extracomment>A button on the break screen, shown in the break&apos;s second half: end the break now (&quot;Break&quot; is a noun).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Termina pausa</translation>
     </message>
 </context>
 <context>
     <name>BreaksPane</name>
     <message>
         <source>Any keyboard or pointer input counts on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop conta qualsiasi uso della tastiera o del mouse.</translation>
     </message>
     <message>
         <source>Balance your focus and rest with short and long breaks that work for you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilancia concentrazione e riposo con pause brevi e lunghe su misura per te.</translation>
     </message>
     <message>
         <source>Short Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause brevi</translation>
     </message>
     <message>
         <source>Work interval</source>
         <extracomment>How long you work between two breaks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Intervallo di lavoro</translation>
     </message>
     <message>
         <source>Break duration</source>
         <extracomment>How long a short break lasts (&quot;Break&quot; is a noun here).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Durata della pausa</translation>
     </message>
     <message>
         <source>Long Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause lunghe</translation>
     </message>
     <message>
         <source>Enable long breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva le pause lunghe</translation>
     </message>
     <message>
         <source>Duration</source>
         <extracomment>How long a long break lasts.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Durata</translation>
     </message>
     <message>
         <source>Frequency</source>
         <extracomment>How often a long break takes the place of a short one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Frequenza</translation>
     </message>
     <message>
         <source>Break Behavior</source>
-        <translation type="unfinished"></translation>
+        <translation>Comportamento delle pause</translation>
     </message>
     <message>
         <source>Skip difficulty</source>
         <extracomment>How hard it is to skip a break: Flexible, Gentle or Committed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Difficoltà a saltare</translation>
     </message>
     <message>
         <source>Allow ending break early</source>
-        <translation type="unfinished"></translation>
+        <translation>Consenti di terminare la pausa in anticipo</translation>
     </message>
     <message>
         <source>Typing Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo durante la digitazione</translation>
     </message>
     <message>
         <source>Don&apos;t show breaks while typing</source>
-        <translation type="unfinished"></translation>
+        <translation>Non mostrare pause durante la digitazione</translation>
     </message>
     <message>
         <source>Pauses the work timer while you&apos;re typing so a break is less likely to interrupt you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospende il timer di lavoro mentre scrivi, così è meno probabile che una pausa ti interrompa.</translation>
     </message>
     <message>
         <source>Lock Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocco dello schermo</translation>
     </message>
     <message>
         <source>Lock screen when break starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca lo schermo all&apos;inizio della pausa</translation>
     </message>
     <message>
         <source>Locks your session when a break begins, using your desktop&apos;s screen locker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca la sessione all&apos;inizio di una pausa, usando il blocco schermo del tuo desktop.</translation>
     </message>
     <message>
         <source>Presets</source>
         <extracomment>Ready-made sets of break settings, chosen with the buttons below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Profili</translation>
     </message>
     <message>
         <source>No Screen Locker Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun blocco schermo trovato</translation>
     </message>
     <message>
         <source>Velto could not find a way to lock this session. Install or enable a screen locker (for example your desktop&apos;s lock screen, light-locker or xsecurelock), then turn this option on again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto non ha trovato un modo per bloccare questa sessione. Installa o attiva un programma di blocco schermo (per esempio il blocco schermo del tuo desktop, light-locker o xsecurelock), poi riattiva questa opzione.</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Show the countdown, the state and today&apos;s breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il conto alla rovescia, lo stato e le pause di oggi</translation>
     </message>
     <message>
         <source>Take a break now (a long break with --long)</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia subito una pausa (una pausa lunga con --long)</translation>
     </message>
     <message>
         <source>Pause reminders for MINUTES minutes (%1 if not given)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospende i promemoria per MINUTES minuti (%1 se non indicato)</translation>
     </message>
     <message>
         <source>End a pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina una sospensione</translation>
     </message>
     <message>
         <source>Skip the coming break</source>
-        <translation type="unfinished"></translation>
+        <translation>Salta la prossima pausa</translation>
     </message>
     <message>
         <source>Turn reminders on</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva i promemoria</translation>
     </message>
     <message>
         <source>Turn reminders off</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattiva i promemoria</translation>
     </message>
     <message>
         <source>Open the settings window</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre la finestra delle impostazioni</translation>
     </message>
     <message>
         <source>Check for a newer version and say what was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca una versione più recente e riferisce il risultato</translation>
     </message>
     <message>
         <source>Quit Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiude Velto</translation>
     </message>
     <message>
         <source>Tell whether Velto&apos;s GNOME Shell extension is installed, enabled and running, or enable it</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica se l&apos;estensione GNOME Shell di Velto è installata, attivata e in esecuzione, oppure la attiva</translation>
     </message>
     <message>
         <source>GNOME Shell did not answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>GNOME Shell non ha risposto in tempo</translation>
     </message>
     <message>
         <source>there is no GNOME Shell in this session</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è GNOME Shell in questa sessione</translation>
     </message>
     <message>
         <source>Velto&apos;s GNOME Shell extension is not installed (it comes with Velto&apos;s package)</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;estensione GNOME Shell di Velto non è installata (è inclusa nel pacchetto di Velto)</translation>
     </message>
     <message>
         <source>the GNOME Shell extension could not be enabled: </source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato possibile attivare l&apos;estensione GNOME Shell: </translation>
     </message>
     <message>
         <source>Enable it with: velto gnome-extension enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Per attivarla: velto gnome-extension enable</translation>
     </message>
     <message>
         <source>GNOME Shell still has the extension off</source>
-        <translation type="unfinished"></translation>
+        <translation>GNOME Shell mantiene ancora l&apos;estensione disattivata</translation>
     </message>
     <message>
         <source>GNOME Shell could not start the extension; its log may say why</source>
-        <translation type="unfinished"></translation>
+        <translation>GNOME Shell non è riuscito ad avviare l&apos;estensione; il suo registro potrebbe indicarne il motivo</translation>
     </message>
 </context>
 <context>
@@ -525,62 +525,92 @@
     <message>
         <source>Break Reminder</source>
         <comment>the kind of application, in application menus</comment>
-        <translation type="unfinished"></translation>
+        <translation>Promemoria per le pause</translation>
     </message>
     <message>
         <source>Reminds you to rest your eyes and take breaks</source>
         <comment>one line under the name in application menus and software centres</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ti ricorda di riposare gli occhi e di fare delle pause</translation>
     </message>
     <message>
         <source>break;rest;eyes;pause;timer;health;posture;</source>
         <comment>search words for application menus: keep the semicolons, add your language&apos;s synonyms</comment>
-        <translation type="unfinished"></translation>
+        <translation>pausa;riposo;occhi;vista;timer;promemoria;salute;postura;ergonomia;</translation>
     </message>
     <message>
         <source>Take a Break</source>
         <comment>an action on the application&apos;s icon: start a break now</comment>
-        <translation type="unfinished"></translation>
+        <translation>Fai una pausa</translation>
     </message>
     <message>
         <source>Pause for 15 Minutes</source>
         <comment>an action on the application&apos;s icon</comment>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi per 15 minuti</translation>
     </message>
 </context>
 <context>
     <name>DetectionCoverage</name>
     <message>
         <source>Apps in front or fullscreen cannot be seen on this desktop: enable Velto&apos;s GNOME Shell extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop non è possibile rilevare le app in primo piano o a schermo intero: attiva l&apos;estensione GNOME Shell di Velto.</translation>
     </message>
     <message>
         <source>Apps in front or fullscreen cannot be seen on this desktop: start Velto from the application menu so KWin shares its window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop non è possibile rilevare le app in primo piano o a schermo intero: avvia Velto dal menu delle applicazioni affinché KWin condivida il suo elenco delle finestre.</translation>
     </message>
     <message>
         <source>Apps in front or fullscreen cannot be seen on this desktop, as its compositor shares no window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop non è possibile rilevare le app in primo piano o a schermo intero, perché il suo compositor non condivide alcun elenco delle finestre.</translation>
     </message>
     <message>
         <source>Only X11 apps can be seen in front or fullscreen on this desktop: enable Velto&apos;s GNOME Shell extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop è possibile rilevare in primo piano o a schermo intero solo le app X11: attiva l&apos;estensione GNOME Shell di Velto.</translation>
     </message>
     <message>
         <source>Only X11 apps can be seen in front or fullscreen on this desktop: start Velto from the application menu so KWin shares its window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop è possibile rilevare in primo piano o a schermo intero solo le app X11: avvia Velto dal menu delle applicazioni affinché KWin condivida il suo elenco delle finestre.</translation>
     </message>
     <message>
         <source>Only X11 apps can be seen in front or fullscreen on this desktop, as its compositor shares no window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop è possibile rilevare in primo piano o a schermo intero solo le app X11, perché il suo compositor non condivide alcun elenco delle finestre.</translation>
     </message>
     <message>
         <source>Typing cannot be seen on this desktop, so the typing delay has no effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop non è possibile rilevare la digitazione, quindi il ritardo durante la digitazione non ha effetto.</translation>
     </message>
     <message>
         <source>Only typing into X11 apps can be seen on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo desktop è possibile rilevare solo la digitazione nelle app X11.</translation>
+    </message>
+</context>
+<context>
+    <name>FocusAppMode</name>
+    <message>
+        <source>Foreground &amp; Fullscreen</source>
+        <extracomment>A focus app&apos;s picker beside its name: it holds breaks while in front and fullscreen.</extracomment>
+        <translation>Primo piano e schermo intero</translation>
+    </message>
+    <message>
+        <source>In Foreground</source>
+        <extracomment>A focus app&apos;s picker beside its name: it holds breaks while in front.</extracomment>
+        <translation>In primo piano</translation>
+    </message>
+    <message>
+        <source>When Open</source>
+        <extracomment>A focus app&apos;s picker beside its name: it holds breaks while it runs.
+----------
+When a focus app being added holds breaks: while it runs.</extracomment>
+        <translation>Quando è aperta</translation>
+    </message>
+    <message>
+        <source>When in Foreground &amp; Fullscreen</source>
+        <extracomment>When a focus app being added holds breaks: while in front and fullscreen.</extracomment>
+        <translation>Quando in primo piano e a schermo intero</translation>
+    </message>
+    <message>
+        <source>When in Foreground</source>
+        <extracomment>When a focus app being added holds breaks: while in front.</extracomment>
+        <translation>Quando in primo piano</translation>
     </message>
 </context>
 <context>
@@ -588,140 +618,140 @@
     <message>
         <source>Pause breaks for %1</source>
         <extracomment>Spoken name of a focus app&apos;s picker; %1 is the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi le pause per %1</translation>
     </message>
     <message>
         <source>Remove %1</source>
         <extracomment>Spoken name of the button that removes a focus app; %1 is the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi %1</translation>
     </message>
 </context>
 <context>
     <name>GeneralPane</name>
     <message>
         <source>Control the core behavior of Velto and how it fits into your workflow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlla il comportamento di base di Velto e come si inserisce nel tuo modo di lavorare.</translation>
     </message>
     <message>
         <source>App Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni dell&apos;app</translation>
     </message>
     <message>
         <source>Enable Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva Velto</translation>
     </message>
     <message>
         <source>Show timer in menu bar</source>
         <extracomment>The menu bar is the panel that holds Velto&apos;s tray icon.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il timer nell&apos;area di notifica</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia all&apos;accesso</translation>
     </message>
     <message>
         <source>Schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Orari</translation>
     </message>
     <message>
         <source>Use Office Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa l&apos;orario di lavoro</translation>
     </message>
     <message>
         <source>Active days</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni attivi</translation>
     </message>
     <message>
         <source>Start</source>
         <extracomment>The time office hours begin.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Inizio</translation>
     </message>
     <message>
         <source>End</source>
         <extracomment>The time office hours end.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fine</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina i valori predefiniti</translation>
     </message>
 </context>
 <context>
     <name>GnomeExtension</name>
     <message>
         <source>GNOME extension: not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensione GNOME: non installata</translation>
     </message>
     <message>
         <source>GNOME extension: installed, not enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensione GNOME: installata, non attivata</translation>
     </message>
     <message>
         <source>GNOME extension: enabled, active after the next login</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensione GNOME: attivata, operativa dal prossimo accesso</translation>
     </message>
     <message>
         <source>GNOME extension: enabled, but GNOME Shell could not start it</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensione GNOME: attivata, ma GNOME Shell non è riuscito ad avviarla</translation>
     </message>
     <message>
         <source>GNOME extension: active</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensione GNOME: operativa</translation>
     </message>
     <message>
         <source>Until then, Smart Pause cannot see which window is in front on GNOME.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fino ad allora, Smart Pause non può vedere quale finestra è in primo piano su GNOME.</translation>
     </message>
     <message>
         <source>Without it, Smart Pause cannot see which window is in front on GNOME.</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza di essa, Smart Pause non può vedere quale finestra è in primo piano su GNOME.</translation>
     </message>
 </context>
 <context>
     <name>GradientTheme</name>
     <message>
         <source>Midnight</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezzanotte</translation>
     </message>
     <message>
         <source>Aurora</source>
-        <translation type="unfinished"></translation>
+        <translation>Aurora</translation>
     </message>
     <message>
         <source>Ocean</source>
-        <translation type="unfinished"></translation>
+        <translation>Oceano</translation>
     </message>
     <message>
         <source>Sunset</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramonto</translation>
     </message>
     <message>
         <source>Forest</source>
-        <translation type="unfinished"></translation>
+        <translation>Foresta</translation>
     </message>
     <message>
         <source>Cosmos</source>
-        <translation type="unfinished"></translation>
+        <translation>Cosmo</translation>
     </message>
     <message>
         <source>Minimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Essenziale</translation>
     </message>
     <message>
         <source>Rose</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa</translation>
     </message>
     <message>
         <source>Warmth</source>
-        <translation type="unfinished"></translation>
+        <translation>Calore</translation>
     </message>
     <message>
         <source>Slate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ardesia</translation>
     </message>
     <message>
         <source>Lavender</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavanda</translation>
     </message>
 </context>
 <context>
@@ -729,7 +759,7 @@
     <message>
         <source>Dismiss</source>
         <extracomment>Spoken name of the card&apos;s close button (a small cross).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
@@ -737,47 +767,47 @@
     <message>
         <source>UPCOMING BREAK</source>
         <extracomment>A small heading in capitals above the title of the card that announces the next break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>PROSSIMA PAUSA</translation>
     </message>
     <message>
         <source>BREAK IN</source>
         <extracomment>A small label in capitals right above a countdown such as 0:42: the time left until the break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>PAUSA TRA</translation>
     </message>
     <message>
         <source>Break now</source>
         <extracomment>A button of the card: start the break at once (&quot;Break&quot; as a noun: the break, now).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pausa ora</translation>
     </message>
     <message>
         <source>1 min</source>
         <extracomment>A small button of the card: put the break off by one minute. Keep it short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>3 min</source>
         <extracomment>A small button of the card: put the break off by three minutes. Keep it short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>3 min</translation>
     </message>
     <message>
         <source>Skip</source>
         <extracomment>A small button of the card: skip the coming break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salta</translation>
     </message>
     <message>
         <source>Skip break</source>
         <extracomment>Spoken name of the card&apos;s Skip button.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salta la pausa</translation>
     </message>
     <message>
         <source>Returns to work and skips this break when your skip settings allow.</source>
         <extracomment>Spoken description of the card&apos;s Skip button.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Torna al lavoro e salta questa pausa, se le impostazioni lo consentono.</translation>
     </message>
     <message>
         <source>Swipe to close</source>
         <extracomment>A hint at the foot of the card: a sideways swipe on the touchpad sends the card away.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Scorri per chiudere</translation>
     </message>
 </context>
 <context>
@@ -785,63 +815,63 @@
     <message>
         <source>Could not remove %1: %2</source>
         <extracomment>Why launch at login could not be changed: %1 is a file&apos;s path, %2 the system&apos;s reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile rimuovere %1: %2</translation>
     </message>
     <message>
         <source>Could not create the autostart folder %1</source>
         <extracomment>%1 is the folder&apos;s path.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile creare la cartella di avvio automatico %1</translation>
     </message>
     <message>
         <source>Could not write %1: %2</source>
         <extracomment>%1 is a file&apos;s path, %2 the system&apos;s reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere %1: %2</translation>
     </message>
     <message>
         <source>Failed to update launch at login: %1</source>
         <extracomment>A line on standard output; %1 is the reason, such as &quot;Could not write …&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aggiornare l&apos;avvio all&apos;accesso: %1</translation>
     </message>
 </context>
 <context>
     <name>NotificationsPane</name>
     <message>
         <source>Choose how Velto keeps you informed without getting in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli come Velto ti tiene informato senza essere d&apos;intralcio.</translation>
     </message>
     <message>
         <source>Heads-Up</source>
         <extracomment>A section title: being told a little before a break comes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Preavviso</translation>
     </message>
     <message>
         <source>Notify before breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvisa prima delle pause</translation>
     </message>
     <message>
         <source>Show notification</source>
         <extracomment>Followed by a picker of lead times (&quot;1 min before&quot;).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la notifica</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Suono</translation>
     </message>
     <message>
         <source>Chime when break starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Suono all&apos;inizio della pausa</translation>
     </message>
     <message>
         <source>Chime when break ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Suono alla fine della pausa</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>Chime volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume del suono</translation>
     </message>
 </context>
 <context>
@@ -849,100 +879,100 @@
     <message numerus="yes">
         <source>Paused · resumes in %n min</source>
         <extracomment>The tray menu&apos;s status line during a timed pause; %n is the minutes until it ends.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Sospeso · riprende tra %n min</numerusform>
+            <numerusform>Sospeso · riprende tra %n min</numerusform>
         </translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospeso</translation>
     </message>
     <message>
         <source>Outside office hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuori dall&apos;orario di lavoro</translation>
     </message>
     <message>
         <source>Breaks disabled</source>
         <extracomment>Velto&apos;s reminders are switched off.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pause disattivate</translation>
     </message>
     <message>
         <source>Smart Pause active</source>
         <extracomment>Smart Pause is the feature&apos;s name: breaks wait while a meeting, video, game or focus app is on.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Smart Pause in azione</translation>
     </message>
 </context>
 <context>
     <name>SettingsView</name>
     <message>
         <source>Your changes could not be saved. They apply until Velto quits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare le modifiche. Restano valide fino alla chiusura di Velto.</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspetto</translation>
     </message>
     <message>
         <source>Breaks</source>
         <extracomment>A settings category (plural noun: the breaks from work).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>General</source>
         <extracomment>A settings category in the window&apos;s sidebar, and the title of its pane.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Generale</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Notifiche</translation>
     </message>
     <message>
         <source>Smart Pause</source>
         <extracomment>A settings category: the work timer pauses by itself during calls, videos, games and the like.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Smart Pause</translation>
     </message>
     <message>
         <source>Velto Settings</source>
         <extracomment>The window title.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni di Velto</translation>
     </message>
     <message>
         <source>Sidebar</source>
         <extracomment>A toolbar button that shows or hides the list of settings categories.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Barra laterale</translation>
     </message>
     <message>
         <source>Show or hide the settings categories list</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra o nasconde l&apos;elenco delle categorie delle impostazioni</translation>
     </message>
     <message>
         <source>Settings categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorie delle impostazioni</translation>
     </message>
     <message>
         <source>Update available</source>
         <extracomment>Spoken for the dot beside About when a newer build exists.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento disponibile</translation>
     </message>
 </context>
 <context>
     <name>SkipDifficulty</name>
     <message>
         <source>Flexible</source>
-        <translation type="unfinished"></translation>
+        <translation>Flessibile</translation>
     </message>
     <message>
         <source>Gentle</source>
-        <translation type="unfinished"></translation>
+        <translation>Moderato</translation>
     </message>
     <message>
         <source>Committed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rigoroso</translation>
     </message>
 </context>
 <context>
@@ -950,103 +980,103 @@
     <message>
         <source>%1 is active</source>
         <extracomment>Why breaks wait: %1 is the name of a focus application the user chose, and it is in front.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 è in primo piano</translation>
     </message>
     <message>
         <source>%1 is open</source>
         <extracomment>Why breaks wait: %1 is the name of a focus application the user chose, and it is running.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 è in esecuzione</translation>
     </message>
     <message>
         <source>Focus app active</source>
-        <translation type="unfinished"></translation>
+        <translation>App di concentrazione attiva</translation>
     </message>
 </context>
 <context>
     <name>SmartPausePane</name>
     <message>
         <source>Let Velto adapt to what you&apos;re doing and pause breaks when it matters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lascia che Velto si adatti a ciò che fai e sospenda le pause quando serve.</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva</translation>
     </message>
     <message>
         <source>Activity Detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilevamento attività</translation>
     </message>
     <message>
         <source>Pause during meetings or calls</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi durante riunioni o chiamate</translation>
     </message>
     <message>
         <source>Pauses when you are likely on a call or in a meeting—not while you are only browsing the web.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospende quando probabilmente sei in una chiamata o in una riunione, non quando stai solo navigando sul web.</translation>
     </message>
     <message>
         <source>Pause during video playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi durante la riproduzione di video</translation>
     </message>
     <message>
         <source>Video detection mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità di rilevamento video</translation>
     </message>
     <message>
         <source>Frontmost only checks the active app. Include background also pauses when a supported player is playing behind another window.</source>
         <extracomment>&quot;Frontmost only&quot; and &quot;Include background&quot; name the choices of the video detection mode above.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>«Solo in primo piano» controlla solo l&apos;app attiva. «Anche in secondo piano» sospende anche quando un lettore supportato riproduce dietro un&apos;altra finestra.</translation>
     </message>
     <message>
         <source>Pause during screen recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi durante la registrazione dello schermo</translation>
     </message>
     <message>
         <source>Pause during fullscreen gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi durante i giochi a schermo intero</translation>
     </message>
     <message>
         <source>Idle Detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilevamento inattività</translation>
     </message>
     <message>
         <source>Detect idle time</source>
-        <translation type="unfinished"></translation>
+        <translation>Rileva il tempo di inattività</translation>
     </message>
     <message>
         <source>Reset timer after idle for</source>
         <extracomment>Followed by a picker of minutes (&quot;5 min&quot;): the work timer starts over after this long without input.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Azzera il timer dopo un&apos;inattività di</translation>
     </message>
     <message>
         <source>Cooldown</source>
         <extracomment>How long Smart Pause waits after an activity ends before the work timer runs again.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Attesa</translation>
     </message>
     <message>
         <source>Delay after activity ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo dopo la fine dell&apos;attività</translation>
     </message>
     <message>
         <source>Waits this long after a Smart Pause reason clears before your work timer starts counting down again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attende questo tempo dopo che un motivo di Smart Pause è venuto meno, prima che il timer di lavoro riprenda il conto alla rovescia.</translation>
     </message>
     <message>
         <source>Focus Apps</source>
         <extracomment>Apps that hold breaks back while you use them.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>App di concentrazione</translation>
     </message>
     <message>
         <source>Pause breaks when a specific app is active or open. Each app can use foreground only, foreground while fullscreen, or whenever it is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi le pause quando un&apos;app specifica è attiva o aperta. Ogni app può agire solo in primo piano, in primo piano a schermo intero o ogni volta che è in esecuzione.</translation>
     </message>
     <message>
         <source>No focus apps configured</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna app di concentrazione configurata</translation>
     </message>
     <message>
         <source>Add App…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi app…</translation>
     </message>
 </context>
 <context>
@@ -1054,12 +1084,12 @@
     <message>
         <source>no session bus; running, but cannot make sure no other Velto runs</source>
         <extracomment>Said on standard error at start, after &quot;velto: &quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>nessun bus di sessione; in esecuzione, ma impossibile verificare che non sia attiva un&apos;altra istanza di Velto</translation>
     </message>
     <message>
         <source>no display found; running without a tray icon</source>
         <extracomment>Said on standard error at start, after &quot;velto: &quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>nessun display trovato; in esecuzione senza icona nell&apos;area di notifica</translation>
     </message>
 </context>
 <context>
@@ -1067,55 +1097,55 @@
     <message>
         <source>%1 hour</source>
         <extracomment>Spoken name of the hour box of a time; %1 is the time&apos;s label, Start or End.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, ore</translation>
     </message>
     <message>
         <source>%1 minute</source>
         <extracomment>Spoken name of the minute box of a time; %1 is the time&apos;s label, Start or End.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, minuti</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>No active timer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun timer attivo</translation>
     </message>
     <message>
         <source>%1 remaining</source>
         <extracomment>What a screen reader says for the tray icon&apos;s countdown; %1 is the time left, such as &quot;24:59&quot; or &quot;25 min&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tempo rimanente: %1</translation>
     </message>
     <message>
         <source>Velto, %1</source>
         <extracomment>What a screen reader says for the tray icon; %1 is the status line, such as &quot;Until next break&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Velto, %1</translation>
     </message>
     <message>
         <source>%1h</source>
         <extracomment>Hours left, drawn inside the small tray icon from 100 minutes on: keep it to the number and a letter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1h</translation>
     </message>
     <message numerus="yes">
         <source>%n min</source>
         <extracomment>A duration a screen reader says for the tray icon, with &quot;%1 remaining&quot; around it.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n minuto</numerusform>
+            <numerusform>%n minuti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n h</source>
         <extracomment>A duration a screen reader says for the tray icon, with &quot;%1 remaining&quot; around it.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ora</numerusform>
+            <numerusform>%n ore</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>Hours and minutes together, such as &quot;2 h 5 min&quot;: %1 is the hours, %2 the minutes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 e %2</translation>
     </message>
 </context>
 <context>
@@ -1123,80 +1153,80 @@
     <message>
         <source>Ready</source>
         <extracomment>Nothing is counted yet; shown in the tray menu and as the tray&apos;s title.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Until next break</source>
         <extracomment>The tray menu&apos;s status line after the countdown, as in &quot;24:59 Until next break&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Alla prossima pausa</translation>
     </message>
     <message>
         <source>Break in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa in corso</translation>
     </message>
     <message numerus="yes">
         <source>%n breaks today</source>
         <extracomment>%n is how many breaks were taken today. English says &quot;1 breaks today&quot; too.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n pausa oggi</numerusform>
+            <numerusform>%n pause oggi</numerusform>
         </translation>
     </message>
     <message>
         <source>Disable Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattiva Velto</translation>
     </message>
     <message>
         <source>Enable Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva Velto</translation>
     </message>
     <message>
         <source>Take a Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai una pausa</translation>
     </message>
     <message>
         <source>Resume</source>
         <extracomment>Verb: end the pause now.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Riprendi</translation>
     </message>
     <message>
         <source>End Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina pausa</translation>
     </message>
     <message>
         <source>Take a Long Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai una pausa lunga</translation>
     </message>
     <message>
         <source>Pause for 15 Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi per 15 minuti</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni…</translation>
     </message>
     <message>
         <source>Quit Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci da Velto</translation>
     </message>
 </context>
 <context>
     <name>UpdateWindow</name>
     <message>
         <source>A newer version of Velto exists but needs a newer system than this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste una versione più recente di Velto, ma richiede un sistema più recente di questo.</translation>
     </message>
     <message>
         <source>Velto %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto %1 è la versione più recente disponibile.</translation>
     </message>
     <message>
         <source>Velto is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto è aggiornato</translation>
     </message>
     <message>
         <source>Velto could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto non è riuscito a controllare gli aggiornamenti</translation>
     </message>
 </context>
 <context>
@@ -1204,11 +1234,11 @@
     <message>
         <source>Frontmost only</source>
         <extracomment>Which video players are asked whether they play: only the one in front.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Solo in primo piano</translation>
     </message>
     <message>
         <source>Running in background too</source>
-        <translation type="unfinished"></translation>
+        <translation>Anche in secondo piano</translation>
     </message>
 </context>
 <context>
@@ -1216,44 +1246,44 @@
     <message>
         <source>Sun</source>
         <extracomment>Sunday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dom</translation>
     </message>
     <message>
         <source>Mon</source>
         <extracomment>Monday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Lun</translation>
     </message>
     <message>
         <source>Tue</source>
         <extracomment>Tuesday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mar</translation>
     </message>
     <message>
         <source>Wed</source>
         <extracomment>Wednesday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mer</translation>
     </message>
     <message>
         <source>Thu</source>
         <extracomment>Thursday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gio</translation>
     </message>
     <message>
         <source>Fri</source>
         <extracomment>Friday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ven</translation>
     </message>
     <message>
         <source>Sat</source>
         <extracomment>Saturday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sab</translation>
     </message>
 </context>
 <context>
     <name>velto</name>
     <message>
         <source>Velto is not running</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto non è in esecuzione</translation>
     </message>
 </context>
 <context>
@@ -1261,54 +1291,54 @@
     <message>
         <source>In %1</source>
         <extracomment>Why breaks wait: the user is in a call; %1 is the meeting application&apos;s name, such as Zoom.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>In chiamata su %1</translation>
     </message>
     <message>
         <source>Meeting app active</source>
-        <translation type="unfinished"></translation>
+        <translation>App per riunioni attiva</translation>
     </message>
     <message>
         <source>Camera and microphone in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocamera e microfono in uso</translation>
     </message>
     <message>
         <source>Camera in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocamera in uso</translation>
     </message>
     <message>
         <source>Microphone in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Microfono in uso</translation>
     </message>
     <message>
         <source>Meeting activity detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilevata attività di riunione</translation>
     </message>
     <message>
         <source>Watching video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video in riproduzione</translation>
     </message>
     <message>
         <source>Recording screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrazione dello schermo</translation>
     </message>
     <message>
         <source>Playing a game</source>
-        <translation type="unfinished"></translation>
+        <translation>Gioco in corso</translation>
     </message>
     <message>
         <source>Away from desk</source>
         <extracomment>No keyboard or pointer input for a while.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Lontano dalla scrivania</translation>
     </message>
     <message>
         <source>Smart Pause active</source>
         <extracomment>Smart Pause is the feature&apos;s name: breaks wait while a meeting, video, game or focus app is on.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Smart Pause in azione</translation>
     </message>
     <message>
         <source>Winding down…</source>
         <extracomment>The activity that held breaks has ended; breaks wait a little longer before the countdown runs again.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ripresa a breve…</translation>
     </message>
 </context>
 <context>
@@ -1316,15 +1346,15 @@
     <message>
         <source>Unknown App</source>
         <extracomment>The name shown for a running application that has none.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>App sconosciuta</translation>
     </message>
     <message>
         <source>No other apps are currently running</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun&apos;altra app è in esecuzione</translation>
     </message>
     <message>
         <source>No matching apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna app corrispondente</translation>
     </message>
 </context>
 <context>
@@ -1332,12 +1362,12 @@
     <message>
         <source>no system tray found yet; breaks still run, `velto settings` opens the settings, and the icon appears when a tray does</source>
         <extracomment>Said on standard error at start, after &quot;velto: &quot;. `velto settings` is a command: keep it as it is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>area di notifica non ancora trovata; le pause funzionano comunque, `velto settings` apre le impostazioni e l&apos;icona comparirà quando ci sarà un&apos;area di notifica</translation>
     </message>
     <message>
         <source>this Velto does not check for updates; the system&apos;s package manager updates it</source>
         <extracomment>The answer to `velto check-updates` when Velto came from a distribution&apos;s package.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>questa versione di Velto non cerca aggiornamenti; ci pensa il gestore di pacchetti del sistema</translation>
     </message>
 </context>
 <context>
@@ -1345,81 +1375,82 @@
     <message>
         <source>Your body misses you</source>
         <extracomment>The small caption above the countdown of a long break, shown in capitals.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Il tuo corpo ti cerca</translation>
     </message>
     <message>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>I tuoi occhi hanno bisogno di te</translation>
     </message>
 </context>
 <context>
     <name>velto::CommandLine</name>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>argomento inatteso «%1»</translation>
     </message>
     <message>
         <source>unknown option &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>opzione sconosciuta «%1»</translation>
     </message>
     <message>
         <source>unknown command &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>comando sconosciuto «%1»</translation>
     </message>
     <message>
         <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>gnome-extension richiede «status» o «enable»</translation>
     </message>
     <message>
         <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>comando gnome-extension sconosciuto «%1»</translation>
     </message>
     <message>
         <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>MINUTES deve essere un numero intero da 1 a %1, non «%2»</translation>
     </message>
     <message>
         <source>unknown option &apos;%1&apos; for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>opzione sconosciuta «%1» per %2</translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>argomento inatteso «%1» per %2</translation>
     </message>
     <message>
         <source>Usage: velto [COMMAND]</source>
         <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: velto [COMMAND]</translation>
     </message>
     <message>
         <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza un comando, avvia Velto; se Velto è già in esecuzione, ne apre invece le impostazioni.</translation>
     </message>
     <message>
         <source>Commands for the running Velto:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi per l&apos;istanza di Velto in esecuzione:</translation>
     </message>
     <message>
         <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi che interrogano direttamente GNOME Shell, con o senza Velto in esecuzione:</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni:</translation>
     </message>
     <message>
         <source>Show this help</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra questo aiuto</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la versione</translation>
     </message>
     <message>
         <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
 failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato di uscita: 0 in caso di successo, 1 se Velto non è in esecuzione o non risponde (o se il controllo
+degli aggiornamenti non è riuscito, se mancano GNOME Shell o l&apos;estensione, o se la sua attivazione non è riuscita), 2 per argomenti non validi.</translation>
     </message>
 </context>
 <context>
@@ -1427,59 +1458,59 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <message>
         <source>Velto did not answer within %1 seconds</source>
         <extracomment>%1: a number of seconds</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Velto non ha risposto entro %1 secondi</translation>
     </message>
     <message>
         <source>no session bus, so no running Velto can be reached</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun bus di sessione, quindi non è possibile raggiungere un Velto in esecuzione</translation>
     </message>
     <message>
         <source>the settings window cannot be shown in this session</source>
-        <translation type="unfinished"></translation>
+        <translation>la finestra delle impostazioni non può essere mostrata in questa sessione</translation>
     </message>
     <message>
         <source>nothing to send for this command</source>
-        <translation type="unfinished"></translation>
+        <translation>niente da inviare per questo comando</translation>
     </message>
     <message>
         <source>Velto is already running; its settings window is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto è già in esecuzione; la finestra delle impostazioni è aperta.</translation>
     </message>
     <message>
         <source>Velto is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto è già in esecuzione.</translation>
     </message>
     <message>
         <source>Time left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo rimanente:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato:</translation>
     </message>
     <message>
         <source>Pause reason:</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivo della sospensione:</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno</translation>
     </message>
     <message>
         <source>Breaks today:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause di oggi:</translation>
     </message>
     <message>
         <source>Reminders:</source>
-        <translation type="unfinished"></translation>
+        <translation>Promemoria:</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>attivati</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>disattivati</translation>
     </message>
 </context>
 <context>
@@ -1487,56 +1518,56 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <message>
         <source>Deep rest coming up</source>
         <extracomment>The title of the notice shown shortly before a break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>In arrivo un riposo profondo</translation>
     </message>
     <message>
         <source>Quick break coming up</source>
-        <translation type="unfinished"></translation>
+        <translation>In arrivo una pausa breve</translation>
     </message>
     <message>
         <source>Wrap up or park your task. You’re nearly at a longer chance to step away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Concludi o metti da parte ciò che stai facendo. Tra poco avrai l&apos;occasione di staccare più a lungo.</translation>
     </message>
     <message>
         <source>Save your place and finish the thought you’re on. A quick reset is almost here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Segna il punto in cui sei e completa il pensiero che hai in mente. Tra poco un momento per ricaricarti.</translation>
     </message>
     <message numerus="yes">
         <source>Break in %n seconds</source>
         <extracomment>What a screen reader says for the notice&apos;s countdown.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Pausa tra %n secondo</numerusform>
+            <numerusform>Pausa tra %n secondi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Break in %n minutes</source>
         <extracomment>What a screen reader says for the notice&apos;s countdown.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Pausa tra %n minuto</numerusform>
+            <numerusform>Pausa tra %n minuti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n minutes</source>
         <extracomment>The minutes of &quot;Break in %1 %2&quot;.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n minuto</numerusform>
+            <numerusform>%n minuti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
         <extracomment>The seconds of &quot;Break in %1 %2&quot;.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n secondo</numerusform>
+            <numerusform>%n secondi</numerusform>
         </translation>
     </message>
     <message>
         <source>Break in %1 %2</source>
         <extracomment>What a screen reader says for the notice&apos;s countdown, such as &quot;Break in 2 minutes 5 seconds&quot;: %1 is the minutes, %2 the seconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pausa tra %1 e %2</translation>
     </message>
 </context>
 <context>
@@ -1544,65 +1575,65 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <message>
         <source>%1%</source>
         <extracomment>The dim level as a percentage beside its slider; %1 is a whole number from 50 to 100.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Show break on all connected displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la pausa su tutti gli schermi collegati</translation>
     </message>
     <message>
         <source>Show break only on your primary display</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la pausa solo sullo schermo principale</translation>
     </message>
     <message>
         <source>Install it when you have a moment.</source>
         <extracomment>Under &quot;A newer build is available&quot; when the new version&apos;s number is not known.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Installala quando hai un momento.</translation>
     </message>
     <message>
         <source>Version %1 is ready when you are.</source>
         <extracomment>Under &quot;A newer build is available&quot;; %1 is the new version&apos;s number, like 1.5.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>La versione %1 è pronta quando vuoi.</translation>
     </message>
     <message>
         <source>It could not be enabled: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile attivarla: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n min</source>
         <extracomment>An option of a picker of durations: a number of minutes, abbreviated.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n sec</source>
         <extracomment>An option of the short-break duration picker: a number of seconds, abbreviated.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n s</numerusform>
+            <numerusform>%n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Every %n short breaks</source>
         <extracomment>An option of the long-break frequency picker: a long break takes the place of every n-th short one.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A ogni pausa breve</numerusform>
+            <numerusform>Ogni %n pause brevi</numerusform>
         </translation>
     </message>
     <message>
         <source>No delay</source>
         <extracomment>The first option of the cooldown picker: the work timer runs again as soon as the activity ends.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nessun ritardo</translation>
     </message>
     <message numerus="yes">
         <source>%n min before</source>
         <extracomment>An option of the picker of how early the card tells of the next break: minutes, abbreviated.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n min prima</numerusform>
+            <numerusform>%n min prima</numerusform>
         </translation>
     </message>
 </context>
@@ -1610,109 +1641,109 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <name>velto::SystemGnomeExtension</name>
     <message>
         <source>GNOME Shell&apos;s settings cannot be read here</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere qui le impostazioni di GNOME Shell</translation>
     </message>
     <message>
         <source>GNOME Shell&apos;s extension settings are locked on this system</source>
-        <translation type="unfinished"></translation>
+        <translation>Le impostazioni delle estensioni di GNOME Shell sono bloccate su questo sistema</translation>
     </message>
     <message>
         <source>GNOME Shell&apos;s settings could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere le impostazioni di GNOME Shell</translation>
     </message>
 </context>
 <context>
     <name>velto::UpdateFoundDialog</name>
     <message>
         <source>Software Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento software</translation>
     </message>
     <message>
         <source>A new version of Velto is available</source>
-        <translation type="unfinished"></translation>
+        <translation>È disponibile una nuova versione di Velto</translation>
     </message>
     <message>
         <source>Velto %1 is available; you have %2. Download it from the website to update.</source>
         <extracomment>%1 is the new version, %2 the version running.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Velto %1 è disponibile; tu hai la %2. Scaricala dal sito web per aggiornare.</translation>
     </message>
     <message>
         <source>Loading release notes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Caricamento delle note di rilascio…</translation>
     </message>
     <message>
         <source>The release notes could not be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile caricare le note di rilascio.</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Salta questa versione</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricordamelo più tardi</translation>
     </message>
     <message>
         <source>Download</source>
         <extracomment>Verb, on a button: open the page the new version is downloaded from.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Scarica</translation>
     </message>
 </context>
 <context>
     <name>velto::UpdateMessageDialog</name>
     <message>
         <source>Software Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento software</translation>
     </message>
 </context>
 <context>
     <name>velto::Updater</name>
     <message>
         <source>The update server did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti non ha risposto in tempo.</translation>
     </message>
     <message>
         <source>The update feed address is not secure.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;indirizzo del feed degli aggiornamenti non è sicuro.</translation>
     </message>
     <message>
         <source>The update feed was redirected to an address that is not secure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il feed degli aggiornamenti è stato reindirizzato a un indirizzo non sicuro.</translation>
     </message>
     <message>
         <source>The update feed is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il feed degli aggiornamenti è troppo grande.</translation>
     </message>
     <message>
         <source>The update server answered with status %1.</source>
         <extracomment>%1 is the HTTP status number, such as 404.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti ha risposto con lo stato %1.</translation>
     </message>
     <message>
         <source>The update feed could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere il feed degli aggiornamenti.</translation>
     </message>
     <message>
         <source>Velto is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto è aggiornato.</translation>
     </message>
     <message>
         <source>A newer version of Velto exists but needs a newer system than this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste una versione più recente di Velto, ma richiede un sistema più recente di questo.</translation>
     </message>
     <message>
         <source>Velto %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto %1 è la versione più recente disponibile.</translation>
     </message>
     <message>
         <source>Velto %1 is available; you have %2. Download it from %3</source>
         <extracomment>%1 is the new version, %2 the version running, %3 the web address of the download page.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Velto %1 è disponibile; tu hai la %2. Scaricala da %3</translation>
     </message>
     <message>
         <source>Velto %1 is available; you have %2.</source>
         <extracomment>%1 is the new version, %2 the version running.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Velto %1 è disponibile; tu hai la %2.</translation>
     </message>
 </context>
 </TS>

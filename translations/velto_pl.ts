@@ -5,81 +5,81 @@
     <name>AboutPane</name>
     <message>
         <source>Velto is a small menu bar companion for sustainable focus and breaks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto to niewielki pomocnik w panelu, który dba o zdrowe skupienie i regularne przerwy.</translation>
     </message>
     <message>
         <source>Website %1</source>
         <extracomment>Spoken name of the website link; %1 is the site&apos;s address without &quot;https://&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Strona internetowa %1</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Strona internetowa</translation>
     </message>
     <message>
         <source>Send Feedback to %1</source>
         <extracomment>Spoken name of the feedback link; %1 is an e-mail address.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wyślij opinię na adres %1</translation>
     </message>
     <message>
         <source>Send Feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyślij opinię</translation>
     </message>
     <message>
         <source>Version</source>
         <extracomment>Velto&apos;s version number follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wersja</translation>
     </message>
     <message>
         <source>Version %1</source>
         <extracomment>Spoken name of the version number; %1 is the number, like 1.4 (27).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wersja %1</translation>
     </message>
     <message>
         <source>A newer build is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna jest nowsza wersja</translation>
     </message>
     <message>
         <source>Review update</source>
         <extracomment>A button: look at the newer version before installing it (&quot;Review&quot; is a verb).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przejrzyj aktualizację</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź aktualizacje…</translation>
     </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>
     <message>
         <source>Add Focus App</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj aplikację skupienia</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>Search apps…</source>
-        <translation type="unfinished"></translation>
+        <translation>Szukaj aplikacji…</translation>
     </message>
     <message>
         <source>Search apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Szukaj aplikacji</translation>
     </message>
     <message>
         <source>Running apps</source>
         <extracomment>Spoken name of the list of applications running now.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uruchomione aplikacje</translation>
     </message>
     <message>
         <source>Pause breaks</source>
         <extracomment>Followed by a picker of when the chosen app holds breaks back (&quot;When in Foreground&quot;…).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuj przerwy</translation>
     </message>
     <message>
         <source>Add App</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj aplikację</translation>
     </message>
 </context>
 <context>
@@ -87,222 +87,222 @@
     <message>
         <source>Velto lives in the system tray and counts down your work time. A minute before a break it shows a small card that lets you take the break now, put it off for a minute or three, or skip it. When the time is up, a calm break screen covers your displays and counts down a short break, or a long one every few breaks.</source>
         <comment>software centre description, first paragraph</comment>
-        <translation type="unfinished"></translation>
+        <translation>Velto działa w tacce systemowej i odlicza czas pracy. Na minutę przed przerwą pokazuje małą kartę, na której można zacząć przerwę od razu, odłożyć ją o minutę lub trzy albo ją pominąć. Gdy czas minie, spokojny ekran przerwy zakrywa monitory i odlicza krótką przerwę, a co kilka przerw – długą.</translation>
     </message>
     <message>
         <source>Smart Pause holds the countdown while a break would be rude: during a call or meeting, while a video plays, while the screen is recorded, in a fullscreen game, in an application you chose to focus on, and while you are away. Office hours limit reminders to the days and times you work.</source>
         <comment>software centre description, second paragraph</comment>
-        <translation type="unfinished"></translation>
+        <translation>Inteligentna pauza wstrzymuje odliczanie, gdy przerwa byłaby nie na miejscu: podczas rozmowy lub spotkania, odtwarzania wideo, nagrywania ekranu, gry na pełnym ekranie, pracy w aplikacji wybranej do skupienia oraz pod Twoją nieobecność. Godziny pracy ograniczają przypomnienia do dni i godzin, w których pracujesz.</translation>
     </message>
     <message>
         <source>Velto can also be driven from a terminal or a script: velto status, velto break, velto pause and more.</source>
         <comment>software centre description; the commands stay in English</comment>
-        <translation type="unfinished"></translation>
+        <translation>Velto można też sterować z terminala lub skryptu: velto status, velto break, velto pause i nie tylko.</translation>
     </message>
     <message>
         <source>A short break covers the screen and counts down</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Krótka przerwa zakrywa ekran i odlicza czas</translation>
     </message>
     <message>
         <source>A minute before a break, a card offers to take it now, put it off or skip it</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Na minutę przed przerwą karta proponuje, by zacząć ją teraz, odłożyć lub pominąć</translation>
     </message>
     <message>
         <source>The tray menu</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Menu w tacce systemowej</translation>
     </message>
     <message>
         <source>Smart Pause holds breaks during calls, videos, recordings and games</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>Inteligentna pauza wstrzymuje przerwy podczas rozmów, filmów, nagrań i gier</translation>
     </message>
     <message>
         <source>On GNOME without a tray, Velto shows in the top bar</source>
         <comment>screenshot caption</comment>
-        <translation type="unfinished"></translation>
+        <translation>W GNOME bez tacki systemowej Velto pojawia się na górnym pasku</translation>
     </message>
     <message>
         <source>The first release.</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>Pierwsze wydanie.</translation>
     </message>
     <message>
         <source>A tray countdown, a pre-break card, and short and long break screens on every display</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>Odliczanie w tacce systemowej, karta przed przerwą oraz ekrany krótkich i długich przerw na każdym monitorze</translation>
     </message>
     <message>
         <source>Smart Pause on X11, on Wayland (sway and other wlroots compositors, KDE Plasma) and on GNOME through Velto&apos;s own Shell extension</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>Inteligentna pauza w X11, w Waylandzie (sway i inne kompozytory oparte na wlroots, KDE Plasma) oraz w GNOME dzięki własnemu rozszerzeniu Velto do GNOME Shell</translation>
     </message>
     <message>
         <source>Office hours, presets, chimes, screen lock, launch at login and a command line</source>
         <comment>release notes</comment>
-        <translation type="unfinished"></translation>
+        <translation>Godziny pracy, profile, sygnały dźwiękowe, blokada ekranu, uruchamianie po zalogowaniu i wiersz poleceń</translation>
     </message>
 </context>
 <context>
     <name>AppearancePane</name>
     <message>
         <source>Personalize your break screen to make every pause feel intentional.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dostosuj ekran przerwy, aby każda przerwa była świadomą chwilą odpoczynku.</translation>
     </message>
     <message>
         <source>Background</source>
         <extracomment>The break screen&apos;s background.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tło</translation>
     </message>
     <message>
         <source>Style</source>
         <extracomment>The kind of background: paper, gradient…</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>Theme</source>
         <extracomment>The colours of the gradient background.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Motyw</translation>
     </message>
     <message>
         <source>Dim level</source>
         <extracomment>How much the break screen&apos;s background is darkened.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przyciemnienie</translation>
     </message>
     <message>
         <source>Display</source>
         <extracomment>Which screens show the break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Monitory</translation>
     </message>
     <message>
         <source>Show break on</source>
         <extracomment>Followed by a picker: all displays or the primary display only.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gdzie pokazywać przerwę</translation>
     </message>
     <message>
         <source>Messages</source>
         <extracomment>The lines the break screen shows, one picked at random.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Komunikaty</translation>
     </message>
     <message>
         <source>Your messages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Twoje komunikaty:</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Komunikat</translation>
     </message>
     <message>
         <source>Message %1</source>
         <extracomment>Spoken name of a message field; %1 is its position in the list, from 1.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Komunikat %1</translation>
     </message>
     <message>
         <source>Remove message %1</source>
         <extracomment>Spoken name of the button that removes a message; %1 is its position in the list, from 1.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Usuń komunikat %1</translation>
     </message>
     <message>
         <source>Add</source>
         <extracomment>Adds a message to the list.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj</translation>
     </message>
 </context>
 <context>
     <name>BreakBackground</name>
     <message>
         <source>Paper Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Jasny papier</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Gradient</translation>
     </message>
     <message>
         <source>Paper Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciemny papier</translation>
     </message>
     <message>
         <source>Solid Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednolity kolor</translation>
     </message>
     <message>
         <source>Custom Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Własny obraz</translation>
     </message>
     <message>
         <source>System Wallpaper</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapeta systemowa</translation>
     </message>
 </context>
 <context>
     <name>BreakMessage</name>
     <message>
         <source>Rest your eyes and take a deep breath</source>
-        <translation type="unfinished"></translation>
+        <translation>Daj odpocząć oczom i weź głęboki oddech</translation>
     </message>
     <message>
         <source>Look at something 20 feet away</source>
-        <translation type="unfinished"></translation>
+        <translation>Spójrz na coś oddalonego o 6 metrów</translation>
     </message>
     <message>
         <source>Blink slowly and relax your eyes</source>
-        <translation type="unfinished"></translation>
+        <translation>Mrugaj powoli i rozluźnij oczy</translation>
     </message>
     <message>
         <source>Stretch your shoulders and neck</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozciągnij barki i szyję</translation>
     </message>
     <message>
         <source>You&apos;re doing great! Keep up the healthy habits</source>
-        <translation type="unfinished"></translation>
+        <translation>Świetnie Ci idzie! Trzymaj się zdrowych nawyków</translation>
     </message>
     <message>
         <source>Look away, not at your phone</source>
         <extracomment>A playful line on the screen of a short break, for a user without messages of their own; adapt freely.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Spójrz w dal, tylko nie na telefon</translation>
     </message>
     <message>
         <source>Your retinas called</source>
         <extracomment>A joke on &quot;… called, they want their … back&quot;: the eyes ask for rest.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dzwoniły Twoje siatkówki. Chcą odpocząć</translation>
     </message>
     <message>
         <source>Eyes go brrrr</source>
         <extracomment>Playful: tired eyes making a whirring noise.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Oczy robią brrrr</translation>
     </message>
     <message>
         <source>Let&apos;s not make deals with our vision</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie idźmy na układy ze wzrokiem</translation>
     </message>
     <message>
         <source>Stare into the distance like a poet</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapatrz się w dal jak poeta</translation>
     </message>
     <message>
         <source>Your desk chair is judging you</source>
         <extracomment>A playful line on the screen of a long break, for a user without messages of their own; adapt freely.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Twoje krzesło patrzy na Ciebie z wyrzutem</translation>
     </message>
     <message>
         <source>The floor is waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Podłoga czeka</translation>
     </message>
     <message>
         <source>Gravity wants to see you stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Grawitacja chce zobaczyć, jak się rozciągasz</translation>
     </message>
     <message>
         <source>Adventure awaits (in your living room)</source>
-        <translation type="unfinished"></translation>
+        <translation>Przygoda czeka (w Twoim salonie)</translation>
     </message>
     <message>
         <source>Time to touch grass (literally)</source>
         <extracomment>&quot;Touch grass&quot;: go outside, away from the screen.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pora dotknąć trawy (dosłownie)</translation>
     </message>
 </context>
 <context>
@@ -310,33 +310,33 @@
     <message>
         <source>Balanced</source>
         <extracomment>A preset of break settings.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zrównoważony</translation>
     </message>
     <message>
         <source>Deep Focus</source>
         <extracomment>A preset of break settings: long stretches of work between breaks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Głębokie skupienie</translation>
     </message>
     <message>
         <source>Eye Care</source>
         <extracomment>A preset of break settings: frequent short breaks to rest the eyes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ochrona oczu</translation>
     </message>
     <message>
         <source>Custom</source>
         <extracomment>Shown as the preset when the break settings match none of the others.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Własny</translation>
     </message>
 </context>
 <context>
     <name>BreakScreens</name>
     <message>
         <source>All Screens</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie ekrany</translation>
     </message>
     <message>
         <source>Main Screen Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Tylko ekran główny</translation>
     </message>
 </context>
 <context>
@@ -344,180 +344,180 @@
     <message>
         <source>Skip</source>
         <extracomment>A button on the break screen: skip the rest of this break and go back to work.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pomiń</translation>
     </message>
     <message>
         <source>End Break</source>
         <extracomment>A button on the break screen, shown in the break&apos;s second half: end the break now (&quot;Break&quot; is a noun).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ przerwę</translation>
     </message>
 </context>
 <context>
     <name>BreaksPane</name>
     <message>
         <source>Any keyboard or pointer input counts on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie liczy się każda aktywność klawiatury i wskaźnika.</translation>
     </message>
     <message>
         <source>Balance your focus and rest with short and long breaks that work for you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachowaj równowagę między skupieniem a odpoczynkiem dzięki krótkim i długim przerwom dopasowanym do Ciebie.</translation>
     </message>
     <message>
         <source>Short Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Krótkie przerwy</translation>
     </message>
     <message>
         <source>Work interval</source>
         <extracomment>How long you work between two breaks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Czas pracy</translation>
     </message>
     <message>
         <source>Break duration</source>
         <extracomment>How long a short break lasts (&quot;Break&quot; is a noun here).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Długość przerwy</translation>
     </message>
     <message>
         <source>Long Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Długie przerwy</translation>
     </message>
     <message>
         <source>Enable long breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Włącz długie przerwy</translation>
     </message>
     <message>
         <source>Duration</source>
         <extracomment>How long a long break lasts.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Długość</translation>
     </message>
     <message>
         <source>Frequency</source>
         <extracomment>How often a long break takes the place of a short one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Częstotliwość</translation>
     </message>
     <message>
         <source>Break Behavior</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachowanie przerw</translation>
     </message>
     <message>
         <source>Skip difficulty</source>
         <extracomment>How hard it is to skip a break: Flexible, Gentle or Committed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Trudność pomijania</translation>
     </message>
     <message>
         <source>Allow ending break early</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozwalaj kończyć przerwę wcześniej</translation>
     </message>
     <message>
         <source>Typing Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Opóźnienie przy pisaniu</translation>
     </message>
     <message>
         <source>Don&apos;t show breaks while typing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie pokazuj przerw podczas pisania</translation>
     </message>
     <message>
         <source>Pauses the work timer while you&apos;re typing so a break is less likely to interrupt you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuje licznik czasu pracy podczas pisania, aby przerwa rzadziej wytrącała Cię z rytmu.</translation>
     </message>
     <message>
         <source>Lock Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Blokada ekranu</translation>
     </message>
     <message>
         <source>Lock screen when break starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Blokuj ekran na początku przerwy</translation>
     </message>
     <message>
         <source>Locks your session when a break begins, using your desktop&apos;s screen locker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Blokuje sesję na początku przerwy za pomocą blokady ekranu Twojego środowiska.</translation>
     </message>
     <message>
         <source>Presets</source>
         <extracomment>Ready-made sets of break settings, chosen with the buttons below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Profile</translation>
     </message>
     <message>
         <source>No Screen Locker Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie znaleziono blokady ekranu</translation>
     </message>
     <message>
         <source>Velto could not find a way to lock this session. Install or enable a screen locker (for example your desktop&apos;s lock screen, light-locker or xsecurelock), then turn this option on again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto nie może zablokować tej sesji. Zainstaluj lub włącz blokadę ekranu (na przykład blokadę ekranu swojego środowiska, light-locker lub xsecurelock), a następnie ponownie włącz tę opcję.</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Show the countdown, the state and today&apos;s breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż odliczanie, stan i dzisiejsze przerwy</translation>
     </message>
     <message>
         <source>Take a break now (a long break with --long)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozpocznij przerwę teraz (długą z --long)</translation>
     </message>
     <message>
         <source>Pause reminders for MINUTES minutes (%1 if not given)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymaj przypomnienia na MINUTES minut (domyślnie %1)</translation>
     </message>
     <message>
         <source>End a pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ wstrzymanie</translation>
     </message>
     <message>
         <source>Skip the coming break</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomiń najbliższą przerwę</translation>
     </message>
     <message>
         <source>Turn reminders on</source>
-        <translation type="unfinished"></translation>
+        <translation>Włącz przypomnienia</translation>
     </message>
     <message>
         <source>Turn reminders off</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyłącz przypomnienia</translation>
     </message>
     <message>
         <source>Open the settings window</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz okno ustawień</translation>
     </message>
     <message>
         <source>Check for a newer version and say what was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź, czy jest nowsza wersja, i podaj wynik</translation>
     </message>
     <message>
         <source>Quit Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ Velto</translation>
     </message>
     <message>
         <source>Tell whether Velto&apos;s GNOME Shell extension is installed, enabled and running, or enable it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź, czy rozszerzenie Velto do GNOME Shell jest zainstalowane, włączone i działa, albo je włącz</translation>
     </message>
     <message>
         <source>GNOME Shell did not answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>GNOME Shell nie odpowiedział na czas</translation>
     </message>
     <message>
         <source>there is no GNOME Shell in this session</source>
-        <translation type="unfinished"></translation>
+        <translation>w tej sesji nie ma GNOME Shell</translation>
     </message>
     <message>
         <source>Velto&apos;s GNOME Shell extension is not installed (it comes with Velto&apos;s package)</source>
-        <translation type="unfinished"></translation>
+        <translation>rozszerzenie Velto do GNOME Shell nie jest zainstalowane (jest dołączone do pakietu Velto)</translation>
     </message>
     <message>
         <source>the GNOME Shell extension could not be enabled: </source>
-        <translation type="unfinished"></translation>
+        <translation>nie udało się włączyć rozszerzenia GNOME Shell: </translation>
     </message>
     <message>
         <source>Enable it with: velto gnome-extension enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Włącz je poleceniem: velto gnome-extension enable</translation>
     </message>
     <message>
         <source>GNOME Shell still has the extension off</source>
-        <translation type="unfinished"></translation>
+        <translation>GNOME Shell nadal ma wyłączone to rozszerzenie</translation>
     </message>
     <message>
         <source>GNOME Shell could not start the extension; its log may say why</source>
-        <translation type="unfinished"></translation>
+        <translation>GNOME Shell nie mógł uruchomić rozszerzenia; przyczynę może podawać jego dziennik</translation>
     </message>
 </context>
 <context>
@@ -525,62 +525,92 @@
     <message>
         <source>Break Reminder</source>
         <comment>the kind of application, in application menus</comment>
-        <translation type="unfinished"></translation>
+        <translation>Przypomnienia o przerwach</translation>
     </message>
     <message>
         <source>Reminds you to rest your eyes and take breaks</source>
         <comment>one line under the name in application menus and software centres</comment>
-        <translation type="unfinished"></translation>
+        <translation>Przypomina o odpoczynku dla oczu i regularnych przerwach</translation>
     </message>
     <message>
         <source>break;rest;eyes;pause;timer;health;posture;</source>
         <comment>search words for application menus: keep the semicolons, add your language&apos;s synonyms</comment>
-        <translation type="unfinished"></translation>
+        <translation>przerwa;odpoczynek;oczy;wzrok;pauza;minutnik;zegar;zdrowie;postawa;ergonomia;break;timer;</translation>
     </message>
     <message>
         <source>Take a Break</source>
         <comment>an action on the application&apos;s icon: start a break now</comment>
-        <translation type="unfinished"></translation>
+        <translation>Zrób przerwę</translation>
     </message>
     <message>
         <source>Pause for 15 Minutes</source>
         <comment>an action on the application&apos;s icon</comment>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymaj na 15 minut</translation>
     </message>
 </context>
 <context>
     <name>DetectionCoverage</name>
     <message>
         <source>Apps in front or fullscreen cannot be seen on this desktop: enable Velto&apos;s GNOME Shell extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie nie widać aplikacji na pierwszym planie ani na pełnym ekranie: włącz rozszerzenie Velto do GNOME Shell.</translation>
     </message>
     <message>
         <source>Apps in front or fullscreen cannot be seen on this desktop: start Velto from the application menu so KWin shares its window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie nie widać aplikacji na pierwszym planie ani na pełnym ekranie: uruchom Velto z menu aplikacji, aby KWin udostępnił mu listę okien.</translation>
     </message>
     <message>
         <source>Apps in front or fullscreen cannot be seen on this desktop, as its compositor shares no window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie nie widać aplikacji na pierwszym planie ani na pełnym ekranie, ponieważ jego kompozytor nie udostępnia listy okien.</translation>
     </message>
     <message>
         <source>Only X11 apps can be seen in front or fullscreen on this desktop: enable Velto&apos;s GNOME Shell extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie na pierwszym planie lub na pełnym ekranie widać tylko aplikacje X11: włącz rozszerzenie Velto do GNOME Shell.</translation>
     </message>
     <message>
         <source>Only X11 apps can be seen in front or fullscreen on this desktop: start Velto from the application menu so KWin shares its window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie na pierwszym planie lub na pełnym ekranie widać tylko aplikacje X11: uruchom Velto z menu aplikacji, aby KWin udostępnił mu listę okien.</translation>
     </message>
     <message>
         <source>Only X11 apps can be seen in front or fullscreen on this desktop, as its compositor shares no window list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie na pierwszym planie lub na pełnym ekranie widać tylko aplikacje X11, ponieważ jego kompozytor nie udostępnia listy okien.</translation>
     </message>
     <message>
         <source>Typing cannot be seen on this desktop, so the typing delay has no effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie nie widać pisania, więc opóźnienie przy pisaniu nie działa.</translation>
     </message>
     <message>
         <source>Only typing into X11 apps can be seen on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tym pulpicie widać tylko pisanie w aplikacjach X11.</translation>
+    </message>
+</context>
+<context>
+    <name>FocusAppMode</name>
+    <message>
+        <source>Foreground &amp; Fullscreen</source>
+        <extracomment>A focus app&apos;s picker beside its name: it holds breaks while in front and fullscreen.</extracomment>
+        <translation>Pierwszy plan i pełny ekran</translation>
+    </message>
+    <message>
+        <source>In Foreground</source>
+        <extracomment>A focus app&apos;s picker beside its name: it holds breaks while in front.</extracomment>
+        <translation>Na pierwszym planie</translation>
+    </message>
+    <message>
+        <source>When Open</source>
+        <extracomment>A focus app&apos;s picker beside its name: it holds breaks while it runs.
+----------
+When a focus app being added holds breaks: while it runs.</extracomment>
+        <translation>Gdy jest otwarta</translation>
+    </message>
+    <message>
+        <source>When in Foreground &amp; Fullscreen</source>
+        <extracomment>When a focus app being added holds breaks: while in front and fullscreen.</extracomment>
+        <translation>Gdy na pierwszym planie i na pełnym ekranie</translation>
+    </message>
+    <message>
+        <source>When in Foreground</source>
+        <extracomment>When a focus app being added holds breaks: while in front.</extracomment>
+        <translation>Gdy na pierwszym planie</translation>
     </message>
 </context>
 <context>
@@ -588,140 +618,140 @@
     <message>
         <source>Pause breaks for %1</source>
         <extracomment>Spoken name of a focus app&apos;s picker; %1 is the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuj przerwy dla %1</translation>
     </message>
     <message>
         <source>Remove %1</source>
         <extracomment>Spoken name of the button that removes a focus app; %1 is the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Usuń %1</translation>
     </message>
 </context>
 <context>
     <name>GeneralPane</name>
     <message>
         <source>Control the core behavior of Velto and how it fits into your workflow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustal podstawowe działanie Velto i to, jak ma się wpasować w Twój sposób pracy.</translation>
     </message>
     <message>
         <source>App Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia aplikacji</translation>
     </message>
     <message>
         <source>Enable Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Włącz Velto</translation>
     </message>
     <message>
         <source>Show timer in menu bar</source>
         <extracomment>The menu bar is the panel that holds Velto&apos;s tray icon.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj licznik na panelu</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Uruchamiaj po zalogowaniu</translation>
     </message>
     <message>
         <source>Schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Harmonogram</translation>
     </message>
     <message>
         <source>Use Office Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Używaj godzin pracy</translation>
     </message>
     <message>
         <source>Active days</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktywne dni</translation>
     </message>
     <message>
         <source>Start</source>
         <extracomment>The time office hours begin.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Początek</translation>
     </message>
     <message>
         <source>End</source>
         <extracomment>The time office hours end.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Koniec</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywróć domyślne</translation>
     </message>
 </context>
 <context>
     <name>GnomeExtension</name>
     <message>
         <source>GNOME extension: not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozszerzenie GNOME: niezainstalowane</translation>
     </message>
     <message>
         <source>GNOME extension: installed, not enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozszerzenie GNOME: zainstalowane, niewłączone</translation>
     </message>
     <message>
         <source>GNOME extension: enabled, active after the next login</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozszerzenie GNOME: włączone, aktywne po następnym zalogowaniu</translation>
     </message>
     <message>
         <source>GNOME extension: enabled, but GNOME Shell could not start it</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozszerzenie GNOME: włączone, ale GNOME Shell nie mógł go uruchomić</translation>
     </message>
     <message>
         <source>GNOME extension: active</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozszerzenie GNOME: aktywne</translation>
     </message>
     <message>
         <source>Until then, Smart Pause cannot see which window is in front on GNOME.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do tego czasu Inteligentna pauza nie widzi, które okno w GNOME jest na pierwszym planie.</translation>
     </message>
     <message>
         <source>Without it, Smart Pause cannot see which window is in front on GNOME.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez niego Inteligentna pauza nie widzi, które okno w GNOME jest na pierwszym planie.</translation>
     </message>
 </context>
 <context>
     <name>GradientTheme</name>
     <message>
         <source>Midnight</source>
-        <translation type="unfinished"></translation>
+        <translation>Północ</translation>
     </message>
     <message>
         <source>Aurora</source>
-        <translation type="unfinished"></translation>
+        <translation>Zorza</translation>
     </message>
     <message>
         <source>Ocean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocean</translation>
     </message>
     <message>
         <source>Sunset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachód słońca</translation>
     </message>
     <message>
         <source>Forest</source>
-        <translation type="unfinished"></translation>
+        <translation>Las</translation>
     </message>
     <message>
         <source>Cosmos</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosmos</translation>
     </message>
     <message>
         <source>Minimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimalny</translation>
     </message>
     <message>
         <source>Rose</source>
-        <translation type="unfinished"></translation>
+        <translation>Róża</translation>
     </message>
     <message>
         <source>Warmth</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciepło</translation>
     </message>
     <message>
         <source>Slate</source>
-        <translation type="unfinished"></translation>
+        <translation>Łupek</translation>
     </message>
     <message>
         <source>Lavender</source>
-        <translation type="unfinished"></translation>
+        <translation>Lawenda</translation>
     </message>
 </context>
 <context>
@@ -729,7 +759,7 @@
     <message>
         <source>Dismiss</source>
         <extracomment>Spoken name of the card&apos;s close button (a small cross).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zamknij</translation>
     </message>
 </context>
 <context>
@@ -737,47 +767,47 @@
     <message>
         <source>UPCOMING BREAK</source>
         <extracomment>A small heading in capitals above the title of the card that announces the next break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>NADCHODZĄCA PRZERWA</translation>
     </message>
     <message>
         <source>BREAK IN</source>
         <extracomment>A small label in capitals right above a countdown such as 0:42: the time left until the break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>PRZERWA ZA</translation>
     </message>
     <message>
         <source>Break now</source>
         <extracomment>A button of the card: start the break at once (&quot;Break&quot; as a noun: the break, now).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przerwa teraz</translation>
     </message>
     <message>
         <source>1 min</source>
         <extracomment>A small button of the card: put the break off by one minute. Keep it short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>3 min</source>
         <extracomment>A small button of the card: put the break off by three minutes. Keep it short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>3 min</translation>
     </message>
     <message>
         <source>Skip</source>
         <extracomment>A small button of the card: skip the coming break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pomiń</translation>
     </message>
     <message>
         <source>Skip break</source>
         <extracomment>Spoken name of the card&apos;s Skip button.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pomiń przerwę</translation>
     </message>
     <message>
         <source>Returns to work and skips this break when your skip settings allow.</source>
         <extracomment>Spoken description of the card&apos;s Skip button.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wraca do pracy i pomija tę przerwę, jeśli pozwalają na to ustawienia pomijania.</translation>
     </message>
     <message>
         <source>Swipe to close</source>
         <extracomment>A hint at the foot of the card: a sideways swipe on the touchpad sends the card away.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przesuń, aby zamknąć</translation>
     </message>
 </context>
 <context>
@@ -785,63 +815,63 @@
     <message>
         <source>Could not remove %1: %2</source>
         <extracomment>Why launch at login could not be changed: %1 is a file&apos;s path, %2 the system&apos;s reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można usunąć %1: %2</translation>
     </message>
     <message>
         <source>Could not create the autostart folder %1</source>
         <extracomment>%1 is the folder&apos;s path.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć katalogu autostartu %1</translation>
     </message>
     <message>
         <source>Could not write %1: %2</source>
         <extracomment>%1 is a file&apos;s path, %2 the system&apos;s reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać %1: %2</translation>
     </message>
     <message>
         <source>Failed to update launch at login: %1</source>
         <extracomment>A line on standard output; %1 is the reason, such as &quot;Could not write …&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się zmienić uruchamiania po zalogowaniu: %1</translation>
     </message>
 </context>
 <context>
     <name>NotificationsPane</name>
     <message>
         <source>Choose how Velto keeps you informed without getting in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybierz, jak Velto ma Cię informować, nie przeszkadzając Ci.</translation>
     </message>
     <message>
         <source>Heads-Up</source>
         <extracomment>A section title: being told a little before a break comes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zapowiedź</translation>
     </message>
     <message>
         <source>Notify before breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Powiadamiaj przed przerwami</translation>
     </message>
     <message>
         <source>Show notification</source>
         <extracomment>Followed by a picker of lead times (&quot;1 min before&quot;).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj powiadomienie</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Dźwięk</translation>
     </message>
     <message>
         <source>Chime when break starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Sygnał na początku przerwy</translation>
     </message>
     <message>
         <source>Chime when break ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Sygnał na koniec przerwy</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Głośność</translation>
     </message>
     <message>
         <source>Chime volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Głośność sygnału</translation>
     </message>
 </context>
 <context>
@@ -849,101 +879,101 @@
     <message numerus="yes">
         <source>Paused · resumes in %n min</source>
         <extracomment>The tray menu&apos;s status line during a timed pause; %n is the minutes until it ends.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Wstrzymano · wznowienie za %n min</numerusform>
+            <numerusform>Wstrzymano · wznowienie za %n min</numerusform>
+            <numerusform>Wstrzymano · wznowienie za %n min</numerusform>
         </translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymano</translation>
     </message>
     <message>
         <source>Outside office hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Poza godzinami pracy</translation>
     </message>
     <message>
         <source>Breaks disabled</source>
         <extracomment>Velto&apos;s reminders are switched off.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przerwy wyłączone</translation>
     </message>
     <message>
         <source>Smart Pause active</source>
         <extracomment>Smart Pause is the feature&apos;s name: breaks wait while a meeting, video, game or focus app is on.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Inteligentna pauza aktywna</translation>
     </message>
 </context>
 <context>
     <name>SettingsView</name>
     <message>
         <source>Your changes could not be saved. They apply until Velto quits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się zapisać zmian. Obowiązują do zamknięcia Velto.</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>O programie</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Wygląd</translation>
     </message>
     <message>
         <source>Breaks</source>
         <extracomment>A settings category (plural noun: the breaks from work).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przerwy</translation>
     </message>
     <message>
         <source>General</source>
         <extracomment>A settings category in the window&apos;s sidebar, and the title of its pane.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ogólne</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Powiadomienia</translation>
     </message>
     <message>
         <source>Smart Pause</source>
         <extracomment>A settings category: the work timer pauses by itself during calls, videos, games and the like.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Inteligentna pauza</translation>
     </message>
     <message>
         <source>Velto Settings</source>
         <extracomment>The window title.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia Velto</translation>
     </message>
     <message>
         <source>Sidebar</source>
         <extracomment>A toolbar button that shows or hides the list of settings categories.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Panel boczny</translation>
     </message>
     <message>
         <source>Show or hide the settings categories list</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż lub ukryj listę kategorii ustawień</translation>
     </message>
     <message>
         <source>Settings categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie ustawień</translation>
     </message>
     <message>
         <source>Update available</source>
         <extracomment>Spoken for the dot beside About when a newer build exists.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna aktualizacja</translation>
     </message>
 </context>
 <context>
     <name>SkipDifficulty</name>
     <message>
         <source>Flexible</source>
-        <translation type="unfinished"></translation>
+        <translation>Elastyczna</translation>
     </message>
     <message>
         <source>Gentle</source>
-        <translation type="unfinished"></translation>
+        <translation>Łagodna</translation>
     </message>
     <message>
         <source>Committed</source>
-        <translation type="unfinished"></translation>
+        <translation>Stanowcza</translation>
     </message>
 </context>
 <context>
@@ -951,103 +981,103 @@
     <message>
         <source>%1 is active</source>
         <extracomment>Why breaks wait: %1 is the name of a focus application the user chose, and it is in front.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aktywna aplikacja: %1</translation>
     </message>
     <message>
         <source>%1 is open</source>
         <extracomment>Why breaks wait: %1 is the name of a focus application the user chose, and it is running.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Otwarta aplikacja: %1</translation>
     </message>
     <message>
         <source>Focus app active</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktywna aplikacja skupienia</translation>
     </message>
 </context>
 <context>
     <name>SmartPausePane</name>
     <message>
         <source>Let Velto adapt to what you&apos;re doing and pause breaks when it matters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozwól Velto dopasować się do tego, co robisz, i wstrzymywać przerwy, gdy to ważne.</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Włącz</translation>
     </message>
     <message>
         <source>Activity Detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykrywanie aktywności</translation>
     </message>
     <message>
         <source>Pause during meetings or calls</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuj podczas spotkań i rozmów</translation>
     </message>
     <message>
         <source>Pauses when you are likely on a call or in a meeting—not while you are only browsing the web.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuje, gdy prawdopodobnie rozmawiasz lub uczestniczysz w spotkaniu – ale nie wtedy, gdy tylko przeglądasz internet.</translation>
     </message>
     <message>
         <source>Pause during video playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuj podczas odtwarzania wideo</translation>
     </message>
     <message>
         <source>Video detection mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Tryb wykrywania wideo</translation>
     </message>
     <message>
         <source>Frontmost only checks the active app. Include background also pauses when a supported player is playing behind another window.</source>
         <extracomment>&quot;Frontmost only&quot; and &quot;Include background&quot; name the choices of the video detection mode above.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„Tylko na pierwszym planie” sprawdza jedynie aktywną aplikację. „Także w tle” wstrzymuje przerwy również wtedy, gdy obsługiwany odtwarzacz odtwarza za innym oknem.</translation>
     </message>
     <message>
         <source>Pause during screen recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuj podczas nagrywania ekranu</translation>
     </message>
     <message>
         <source>Pause during fullscreen gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuj podczas gier na pełnym ekranie</translation>
     </message>
     <message>
         <source>Idle Detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykrywanie bezczynności</translation>
     </message>
     <message>
         <source>Detect idle time</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykrywaj bezczynność</translation>
     </message>
     <message>
         <source>Reset timer after idle for</source>
         <extracomment>Followed by a picker of minutes (&quot;5 min&quot;): the work timer starts over after this long without input.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zeruj licznik po bezczynności trwającej</translation>
     </message>
     <message>
         <source>Cooldown</source>
         <extracomment>How long Smart Pause waits after an activity ends before the work timer runs again.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Odczekanie</translation>
     </message>
     <message>
         <source>Delay after activity ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Opóźnienie po zakończeniu aktywności</translation>
     </message>
     <message>
         <source>Waits this long after a Smart Pause reason clears before your work timer starts counting down again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Po ustaniu powodu Inteligentnej pauzy Velto odczekuje tyle czasu, zanim licznik pracy znów zacznie odliczać.</translation>
     </message>
     <message>
         <source>Focus Apps</source>
         <extracomment>Apps that hold breaks back while you use them.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aplikacje skupienia</translation>
     </message>
     <message>
         <source>Pause breaks when a specific app is active or open. Each app can use foreground only, foreground while fullscreen, or whenever it is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymuj przerwy, gdy wybrana aplikacja jest aktywna lub otwarta. Dla każdej aplikacji można wybrać: tylko na pierwszym planie, na pierwszym planie i na pełnym ekranie albo zawsze, gdy działa.</translation>
     </message>
     <message>
         <source>No focus apps configured</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie dodano aplikacji skupienia</translation>
     </message>
     <message>
         <source>Add App…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj aplikację…</translation>
     </message>
 </context>
 <context>
@@ -1055,12 +1085,12 @@
     <message>
         <source>no session bus; running, but cannot make sure no other Velto runs</source>
         <extracomment>Said on standard error at start, after &quot;velto: &quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>brak magistrali sesji; program działa, ale nie może sprawdzić, czy nie działa inna kopia Velto</translation>
     </message>
     <message>
         <source>no display found; running without a tray icon</source>
         <extracomment>Said on standard error at start, after &quot;velto: &quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>nie znaleziono ekranu; program działa bez ikony w tacce systemowej</translation>
     </message>
 </context>
 <context>
@@ -1068,57 +1098,57 @@
     <message>
         <source>%1 hour</source>
         <extracomment>Spoken name of the hour box of a time; %1 is the time&apos;s label, Start or End.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, godzina</translation>
     </message>
     <message>
         <source>%1 minute</source>
         <extracomment>Spoken name of the minute box of a time; %1 is the time&apos;s label, Start or End.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, minuta</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>No active timer</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak aktywnego licznika</translation>
     </message>
     <message>
         <source>%1 remaining</source>
         <extracomment>What a screen reader says for the tray icon&apos;s countdown; %1 is the time left, such as &quot;24:59&quot; or &quot;25 min&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pozostało: %1</translation>
     </message>
     <message>
         <source>Velto, %1</source>
         <extracomment>What a screen reader says for the tray icon; %1 is the status line, such as &quot;Until next break&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Velto, %1</translation>
     </message>
     <message>
         <source>%1h</source>
         <extracomment>Hours left, drawn inside the small tray icon from 100 minutes on: keep it to the number and a letter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1h</translation>
     </message>
     <message numerus="yes">
         <source>%n min</source>
         <extracomment>A duration a screen reader says for the tray icon, with &quot;%1 remaining&quot; around it.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n minuta</numerusform>
+            <numerusform>%n minuty</numerusform>
+            <numerusform>%n minut</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n h</source>
         <extracomment>A duration a screen reader says for the tray icon, with &quot;%1 remaining&quot; around it.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n godzina</numerusform>
+            <numerusform>%n godziny</numerusform>
+            <numerusform>%n godzin</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>Hours and minutes together, such as &quot;2 h 5 min&quot;: %1 is the hours, %2 the minutes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -1126,81 +1156,81 @@
     <message>
         <source>Ready</source>
         <extracomment>Nothing is counted yet; shown in the tray menu and as the tray&apos;s title.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gotowe</translation>
     </message>
     <message>
         <source>Until next break</source>
         <extracomment>The tray menu&apos;s status line after the countdown, as in &quot;24:59 Until next break&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Do następnej przerwy</translation>
     </message>
     <message>
         <source>Break in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Trwa przerwa</translation>
     </message>
     <message numerus="yes">
         <source>%n breaks today</source>
         <extracomment>%n is how many breaks were taken today. English says &quot;1 breaks today&quot; too.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Dziś %n przerwa</numerusform>
+            <numerusform>Dziś %n przerwy</numerusform>
+            <numerusform>Dziś %n przerw</numerusform>
         </translation>
     </message>
     <message>
         <source>Disable Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyłącz Velto</translation>
     </message>
     <message>
         <source>Enable Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Włącz Velto</translation>
     </message>
     <message>
         <source>Take a Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrób przerwę</translation>
     </message>
     <message>
         <source>Resume</source>
         <extracomment>Verb: end the pause now.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wznów</translation>
     </message>
     <message>
         <source>End Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ przerwę</translation>
     </message>
     <message>
         <source>Take a Long Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrób długą przerwę</translation>
     </message>
     <message>
         <source>Pause for 15 Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymaj na 15 minut</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia…</translation>
     </message>
     <message>
         <source>Quit Velto</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ Velto</translation>
     </message>
 </context>
 <context>
     <name>UpdateWindow</name>
     <message>
         <source>A newer version of Velto exists but needs a newer system than this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Istnieje nowsza wersja Velto, ale wymaga nowszego systemu niż ten.</translation>
     </message>
     <message>
         <source>Velto %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto %1 to najnowsza dostępna wersja.</translation>
     </message>
     <message>
         <source>Velto is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Masz najnowszą wersję Velto</translation>
     </message>
     <message>
         <source>Velto could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się sprawdzić aktualizacji Velto</translation>
     </message>
 </context>
 <context>
@@ -1208,11 +1238,11 @@
     <message>
         <source>Frontmost only</source>
         <extracomment>Which video players are asked whether they play: only the one in front.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tylko na pierwszym planie</translation>
     </message>
     <message>
         <source>Running in background too</source>
-        <translation type="unfinished"></translation>
+        <translation>Także w tle</translation>
     </message>
 </context>
 <context>
@@ -1220,44 +1250,44 @@
     <message>
         <source>Sun</source>
         <extracomment>Sunday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nd</translation>
     </message>
     <message>
         <source>Mon</source>
         <extracomment>Monday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pn</translation>
     </message>
     <message>
         <source>Tue</source>
         <extracomment>Tuesday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wt</translation>
     </message>
     <message>
         <source>Wed</source>
         <extracomment>Wednesday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Śr</translation>
     </message>
     <message>
         <source>Thu</source>
         <extracomment>Thursday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cz</translation>
     </message>
     <message>
         <source>Fri</source>
         <extracomment>Friday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pt</translation>
     </message>
     <message>
         <source>Sat</source>
         <extracomment>Saturday, shortened for a small toggle of the office-hours days.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sb</translation>
     </message>
 </context>
 <context>
     <name>velto</name>
     <message>
         <source>Velto is not running</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto nie działa</translation>
     </message>
 </context>
 <context>
@@ -1265,54 +1295,54 @@
     <message>
         <source>In %1</source>
         <extracomment>Why breaks wait: the user is in a call; %1 is the meeting application&apos;s name, such as Zoom.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Spotkanie: %1</translation>
     </message>
     <message>
         <source>Meeting app active</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktywna aplikacja do spotkań</translation>
     </message>
     <message>
         <source>Camera and microphone in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera i mikrofon w użyciu</translation>
     </message>
     <message>
         <source>Camera in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera w użyciu</translation>
     </message>
     <message>
         <source>Microphone in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrofon w użyciu</translation>
     </message>
     <message>
         <source>Meeting activity detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykryto spotkanie</translation>
     </message>
     <message>
         <source>Watching video</source>
-        <translation type="unfinished"></translation>
+        <translation>Oglądanie wideo</translation>
     </message>
     <message>
         <source>Recording screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nagrywanie ekranu</translation>
     </message>
     <message>
         <source>Playing a game</source>
-        <translation type="unfinished"></translation>
+        <translation>Trwa gra</translation>
     </message>
     <message>
         <source>Away from desk</source>
         <extracomment>No keyboard or pointer input for a while.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Z dala od biurka</translation>
     </message>
     <message>
         <source>Smart Pause active</source>
         <extracomment>Smart Pause is the feature&apos;s name: breaks wait while a meeting, video, game or focus app is on.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Inteligentna pauza aktywna</translation>
     </message>
     <message>
         <source>Winding down…</source>
         <extracomment>The activity that held breaks has ended; breaks wait a little longer before the countdown runs again.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jeszcze chwila…</translation>
     </message>
 </context>
 <context>
@@ -1320,15 +1350,15 @@
     <message>
         <source>Unknown App</source>
         <extracomment>The name shown for a running application that has none.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nieznana aplikacja</translation>
     </message>
     <message>
         <source>No other apps are currently running</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie działają żadne inne aplikacje</translation>
     </message>
     <message>
         <source>No matching apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak pasujących aplikacji</translation>
     </message>
 </context>
 <context>
@@ -1336,12 +1366,12 @@
     <message>
         <source>no system tray found yet; breaks still run, `velto settings` opens the settings, and the icon appears when a tray does</source>
         <extracomment>Said on standard error at start, after &quot;velto: &quot;. `velto settings` is a command: keep it as it is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>nie znaleziono jeszcze tacki systemowej; przerwy nadal działają, `velto settings` otwiera ustawienia, a ikona pojawi się, gdy tacka będzie dostępna</translation>
     </message>
     <message>
         <source>this Velto does not check for updates; the system&apos;s package manager updates it</source>
         <extracomment>The answer to `velto check-updates` when Velto came from a distribution&apos;s package.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ta kopia Velto nie sprawdza aktualizacji; aktualizuje ją systemowy menedżer pakietów</translation>
     </message>
 </context>
 <context>
@@ -1349,81 +1379,82 @@
     <message>
         <source>Your body misses you</source>
         <extracomment>The small caption above the countdown of a long break, shown in capitals.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Twoje ciało za Tobą tęskni</translation>
     </message>
     <message>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Twoje oczy Cię potrzebują</translation>
     </message>
 </context>
 <context>
     <name>velto::CommandLine</name>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>nieoczekiwany argument „%1”</translation>
     </message>
     <message>
         <source>unknown option &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>nieznana opcja „%1”</translation>
     </message>
     <message>
         <source>unknown command &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>nieznane polecenie „%1”</translation>
     </message>
     <message>
         <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>gnome-extension wymaga „status” lub „enable”</translation>
     </message>
     <message>
         <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>nieznane polecenie gnome-extension „%1”</translation>
     </message>
     <message>
         <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>MINUTES musi być liczbą całkowitą od 1 do %1, a nie „%2”</translation>
     </message>
     <message>
         <source>unknown option &apos;%1&apos; for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nieznana opcja „%1” dla %2</translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nieoczekiwany argument „%1” dla %2</translation>
     </message>
     <message>
         <source>Usage: velto [COMMAND]</source>
         <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Użycie: velto [COMMAND]</translation>
     </message>
     <message>
         <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez polecenia uruchamia Velto; jeśli Velto już działa, otwiera jego ustawienia.</translation>
     </message>
     <message>
         <source>Commands for the running Velto:</source>
-        <translation type="unfinished"></translation>
+        <translation>Polecenia dla działającego Velto:</translation>
     </message>
     <message>
         <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation type="unfinished"></translation>
+        <translation>Polecenia kierowane bezpośrednio do GNOME Shell, z działającym Velto lub bez niego:</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opcje:</translation>
     </message>
     <message>
         <source>Show this help</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż tę pomoc</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż wersję</translation>
     </message>
     <message>
         <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
 failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kod wyjścia: 0 w razie powodzenia; 1, gdy Velto nie działa lub nie odpowiada (albo sprawdzanie aktualizacji
+się nie powiodło, nie ma GNOME Shell lub rozszerzenia albo nie udało się go włączyć); 2 przy błędnych argumentach.</translation>
     </message>
 </context>
 <context>
@@ -1431,59 +1462,59 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <message>
         <source>Velto did not answer within %1 seconds</source>
         <extracomment>%1: a number of seconds</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brak odpowiedzi od Velto w ciągu %1 s</translation>
     </message>
     <message>
         <source>no session bus, so no running Velto can be reached</source>
-        <translation type="unfinished"></translation>
+        <translation>brak magistrali sesji, więc nie można połączyć się z działającym Velto</translation>
     </message>
     <message>
         <source>the settings window cannot be shown in this session</source>
-        <translation type="unfinished"></translation>
+        <translation>w tej sesji nie można wyświetlić okna ustawień</translation>
     </message>
     <message>
         <source>nothing to send for this command</source>
-        <translation type="unfinished"></translation>
+        <translation>brak danych do wysłania dla tego polecenia</translation>
     </message>
     <message>
         <source>Velto is already running; its settings window is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto już działa; okno ustawień jest otwarte.</translation>
     </message>
     <message>
         <source>Velto is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto już działa.</translation>
     </message>
     <message>
         <source>Time left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozostały czas:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stan:</translation>
     </message>
     <message>
         <source>Pause reason:</source>
-        <translation type="unfinished"></translation>
+        <translation>Powód wstrzymania:</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>brak</translation>
     </message>
     <message>
         <source>Breaks today:</source>
-        <translation type="unfinished"></translation>
+        <translation>Przerwy dzisiaj:</translation>
     </message>
     <message>
         <source>Reminders:</source>
-        <translation type="unfinished"></translation>
+        <translation>Przypomnienia:</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>włączone</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>wyłączone</translation>
     </message>
 </context>
 <context>
@@ -1491,60 +1522,60 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <message>
         <source>Deep rest coming up</source>
         <extracomment>The title of the notice shown shortly before a break.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zbliża się dłuższy odpoczynek</translation>
     </message>
     <message>
         <source>Quick break coming up</source>
-        <translation type="unfinished"></translation>
+        <translation>Zbliża się krótka przerwa</translation>
     </message>
     <message>
         <source>Wrap up or park your task. You’re nearly at a longer chance to step away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokończ lub odłóż zadanie. Już niedługo dłuższa chwila na oderwanie się od pracy.</translation>
     </message>
     <message>
         <source>Save your place and finish the thought you’re on. A quick reset is almost here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapamiętaj, w którym miejscu jesteś, i dokończ myśl. Krótka przerwa już za chwilę.</translation>
     </message>
     <message numerus="yes">
         <source>Break in %n seconds</source>
         <extracomment>What a screen reader says for the notice&apos;s countdown.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Przerwa za %n sekundę</numerusform>
+            <numerusform>Przerwa za %n sekundy</numerusform>
+            <numerusform>Przerwa za %n sekund</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Break in %n minutes</source>
         <extracomment>What a screen reader says for the notice&apos;s countdown.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Przerwa za %n minutę</numerusform>
+            <numerusform>Przerwa za %n minuty</numerusform>
+            <numerusform>Przerwa za %n minut</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n minutes</source>
         <extracomment>The minutes of &quot;Break in %1 %2&quot;.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n minutę</numerusform>
+            <numerusform>%n minuty</numerusform>
+            <numerusform>%n minut</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
         <extracomment>The seconds of &quot;Break in %1 %2&quot;.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sekundę</numerusform>
+            <numerusform>%n sekundy</numerusform>
+            <numerusform>%n sekund</numerusform>
         </translation>
     </message>
     <message>
         <source>Break in %1 %2</source>
         <extracomment>What a screen reader says for the notice&apos;s countdown, such as &quot;Break in 2 minutes 5 seconds&quot;: %1 is the minutes, %2 the seconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przerwa za %1 %2</translation>
     </message>
 </context>
 <context>
@@ -1552,69 +1583,69 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <message>
         <source>%1%</source>
         <extracomment>The dim level as a percentage beside its slider; %1 is a whole number from 50 to 100.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Show break on all connected displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj przerwę na wszystkich podłączonych monitorach</translation>
     </message>
     <message>
         <source>Show break only on your primary display</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj przerwę tylko na monitorze głównym</translation>
     </message>
     <message>
         <source>Install it when you have a moment.</source>
         <extracomment>Under &quot;A newer build is available&quot; when the new version&apos;s number is not known.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zainstaluj ją, gdy znajdziesz chwilę.</translation>
     </message>
     <message>
         <source>Version %1 is ready when you are.</source>
         <extracomment>Under &quot;A newer build is available&quot;; %1 is the new version&apos;s number, like 1.5.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wersja %1 czeka na Ciebie.</translation>
     </message>
     <message>
         <source>It could not be enabled: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się go włączyć: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n min</source>
         <extracomment>An option of a picker of durations: a number of minutes, abbreviated.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n sec</source>
         <extracomment>An option of the short-break duration picker: a number of seconds, abbreviated.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n s</numerusform>
+            <numerusform>%n s</numerusform>
+            <numerusform>%n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Every %n short breaks</source>
         <extracomment>An option of the long-break frequency picker: a long break takes the place of every n-th short one.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Co %n krótką przerwę</numerusform>
+            <numerusform>Co %n krótkie przerwy</numerusform>
+            <numerusform>Co %n krótkich przerw</numerusform>
         </translation>
     </message>
     <message>
         <source>No delay</source>
         <extracomment>The first option of the cooldown picker: the work timer runs again as soon as the activity ends.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bez opóźnienia</translation>
     </message>
     <message numerus="yes">
         <source>%n min before</source>
         <extracomment>An option of the picker of how early the card tells of the next break: minutes, abbreviated.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n min wcześniej</numerusform>
+            <numerusform>%n min wcześniej</numerusform>
+            <numerusform>%n min wcześniej</numerusform>
         </translation>
     </message>
 </context>
@@ -1622,109 +1653,109 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <name>velto::SystemGnomeExtension</name>
     <message>
         <source>GNOME Shell&apos;s settings cannot be read here</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można tu odczytać ustawień GNOME Shell</translation>
     </message>
     <message>
         <source>GNOME Shell&apos;s extension settings are locked on this system</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia rozszerzeń GNOME Shell są w tym systemie zablokowane</translation>
     </message>
     <message>
         <source>GNOME Shell&apos;s settings could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się zapisać ustawień GNOME Shell</translation>
     </message>
 </context>
 <context>
     <name>velto::UpdateFoundDialog</name>
     <message>
         <source>Software Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja oprogramowania</translation>
     </message>
     <message>
         <source>A new version of Velto is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna jest nowa wersja Velto</translation>
     </message>
     <message>
         <source>Velto %1 is available; you have %2. Download it from the website to update.</source>
         <extracomment>%1 is the new version, %2 the version running.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna jest wersja Velto %1; masz %2. Aby zaktualizować, pobierz ją ze strony internetowej.</translation>
     </message>
     <message>
         <source>Loading release notes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wczytywanie informacji o wydaniu…</translation>
     </message>
     <message>
         <source>The release notes could not be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się wczytać informacji o wydaniu.</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomiń tę wersję</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Przypomnij później</translation>
     </message>
     <message>
         <source>Download</source>
         <extracomment>Verb, on a button: open the page the new version is downloaded from.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pobierz</translation>
     </message>
 </context>
 <context>
     <name>velto::UpdateMessageDialog</name>
     <message>
         <source>Software Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja oprogramowania</translation>
     </message>
 </context>
 <context>
     <name>velto::Updater</name>
     <message>
         <source>The update server did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serwer aktualizacji nie odpowiedział na czas.</translation>
     </message>
     <message>
         <source>The update feed address is not secure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adres kanału aktualizacji nie jest bezpieczny.</translation>
     </message>
     <message>
         <source>The update feed was redirected to an address that is not secure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanał aktualizacji został przekierowany na adres, który nie jest bezpieczny.</translation>
     </message>
     <message>
         <source>The update feed is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanał aktualizacji jest za duży.</translation>
     </message>
     <message>
         <source>The update server answered with status %1.</source>
         <extracomment>%1 is the HTTP status number, such as 404.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Serwer aktualizacji zwrócił kod stanu %1.</translation>
     </message>
     <message>
         <source>The update feed could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się odczytać kanału aktualizacji.</translation>
     </message>
     <message>
         <source>Velto is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masz najnowszą wersję Velto.</translation>
     </message>
     <message>
         <source>A newer version of Velto exists but needs a newer system than this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Istnieje nowsza wersja Velto, ale wymaga nowszego systemu niż ten.</translation>
     </message>
     <message>
         <source>Velto %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velto %1 to najnowsza dostępna wersja.</translation>
     </message>
     <message>
         <source>Velto %1 is available; you have %2. Download it from %3</source>
         <extracomment>%1 is the new version, %2 the version running, %3 the web address of the download page.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna jest wersja Velto %1; masz %2. Pobierz ją ze strony %3</translation>
     </message>
     <message>
         <source>Velto %1 is available; you have %2.</source>
         <extracomment>%1 is the new version, %2 the version running.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna jest wersja Velto %1; masz %2.</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "ControlBus.h"
 
+#include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusReply>
 #include <QJsonDocument>
@@ -7,6 +8,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 
 #include <memory>
 
@@ -120,6 +122,49 @@ private Q_SLOTS:
         quitAndWait(first);
     }
 
+    // A German desktop: the tray menu (as the shell's indicator reads it) and the command line speak German;
+    // what scripts read stays the same.
+    void germanForPeopleTheSameForScripts()
+    {
+        QTranslator german;
+        QVERIFY(german.load(QStringLiteral(VELTO_TRANSLATIONS_BUILT "/velto_de.qm")));
+        const auto inGerman = [&german](const char* context, const char* text) {
+            return german.translate(context, text);
+        };
+        QProcessEnvironment environment = this->environment();
+        environment.insert(u"LANGUAGE"_s, u"de"_s);
+        QProcess* instance = startInstance(environment);
+        QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
+
+        QDBusMessage menu = QDBusMessage::createMethodCall(
+            velto::ControlBus::serviceName, u"/com/velto/app/Indicator"_s, u"com.velto.app.Indicator1"_s, u"menu"_s);
+        const QDBusMessage reply = QDBusConnection::sessionBus().call(menu);
+        QStringList titles;
+        const QDBusArgument items = reply.arguments().value(0).value<QDBusArgument>();
+        items.beginArray();
+        while (!items.atEnd()) {
+            QVariantMap item;
+            items >> item;
+            titles << item.value(u"title"_s).toString();
+        }
+        items.endArray();
+        for (const char* text : {"Take a Break", "Quit Velto"}) {
+            QVERIFY(!inGerman("TrayMenu", text).isEmpty() && inGerman("TrayMenu", text) != QLatin1String(text));
+            QVERIFY2(titles.contains(inGerman("TrayMenu", text)), qPrintable(titles.join(u" | "_s)));
+        }
+
+        const Result human = velto({u"status"_s}, environment);
+        QVERIFY2(human.out.contains(inGerman("TrayMenu", "Until next break")), qPrintable(human.out));
+        QVERIFY2(human.out.contains(inGerman("CommandLine", "State:")), qPrintable(human.out));
+        const Result json = velto({u"status"_s, u"--json"_s}, environment);
+        const QJsonObject object = QJsonDocument::fromJson(json.out.toUtf8()).object();
+        QVERIFY2(object.value(u"statusLine"_s).toString().endsWith(u"  Until next break"_s), qPrintable(json.out));
+        QCOMPARE(object.value(u"state"_s).toString(), u"working"_s);
+        const Result help = velto({u"--help"_s}, environment);
+        QVERIFY2(help.out.contains(inGerman("CommandLine", "Show this help")), qPrintable(help.out));
+        quitAndWait(instance);
+    }
+
     void ofSeveralStartingAtOnceExactlyOneRuns()
     {
         QList<QProcess*> started;
@@ -193,6 +238,8 @@ private:
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
         environment.insert(u"VELTO_TEST_SUITE"_s, u"1"_s);
+        // English, whatever the machine's language; a test asks for another where it needs one.
+        environment.insert(u"LANGUAGE"_s, u"en"_s);
         return environment;
     }
 
