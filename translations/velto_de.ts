@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Nach Updates suchen …</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Aktualisierungen kommen über die Paketverwaltung deines Systems.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Buscar actualizaciones…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Las actualizaciones llegan a través del gestor de paquetes del sistema.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Rechercher des mises à jour…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Les mises à jour sont fournies par le gestionnaire de paquets du système.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

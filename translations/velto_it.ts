@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Controlla aggiornamenti…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Gli aggiornamenti arrivano dal gestore di pacchetti del sistema.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

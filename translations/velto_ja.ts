@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>アップデートを確認…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>アップデートはシステムのパッケージマネージャーから提供されます。</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

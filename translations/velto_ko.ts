@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>업데이트 확인…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>업데이트는 시스템의 패키지 관리자를 통해 제공됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

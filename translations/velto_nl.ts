@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Controleren op updates…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Updates komen via het pakketbeheer van je systeem.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Sprawdź aktualizacje…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Aktualizacje dostarcza menedżer pakietów systemu.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

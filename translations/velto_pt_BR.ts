@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Verificar atualizações…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>As atualizações vêm do gerenciador de pacotes do sistema.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

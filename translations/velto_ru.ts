@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Проверить обновления…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Обновления приходят через менеджер пакетов системы.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

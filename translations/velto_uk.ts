@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>Перевірити оновлення…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>Оновлення надходять через менеджер пакунків системи.</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

@@ -48,6 +48,10 @@
         <source>Check for Updates…</source>
         <translation>检查更新…</translation>
     </message>
+    <message>
+        <source>Updates come from your system&apos;s package manager.</source>
+        <translation>更新由系统的软件包管理器提供。</translation>
+    </message>
 </context>
 <context>
     <name>AddFocusAppSheet</name>

@@ -44,6 +44,7 @@ AppDelegate::AppDelegate(AppServices services, QObject* parent)
 
     // The updater starts at once and runs its own daily checks; the model publishes what they find.
     m_updateAvailability = new UpdateAvailabilityModel(this);
+    m_updateAvailability->setUpdatedBySystem(m_services.updatedBySystem);
     if (m_services.runsUpdater) {
         const QString version = QCoreApplication::applicationVersion();
         m_updaterController = new StandardUpdaterController(defaultUpdaterConfiguration(version),

@@ -45,6 +45,8 @@ struct AppServices {
     std::unique_ptr<GnomeExtensionControlling> gnomeExtension;
     // Off in tests: the updater reaches out to the network on its own schedule.
     bool runsUpdater = false;
+    // A distribution's package: its package manager updates Velto, and the About pane says so.
+    bool updatedBySystem = false;
 
     [[nodiscard]] static AppServices system();
 

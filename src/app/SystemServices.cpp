@@ -70,6 +70,7 @@ AppServices AppServices::system()
     services.colorScheme = std::make_unique<DesktopColorScheme>(QDBusConnection::sessionBus());
     // Off in distribution packages: the package manager brings new versions.
     services.runsUpdater = VELTO_UPDATE_CHECKS;
+    services.updatedBySystem = !VELTO_UPDATE_CHECKS;
     return services;
 }
 

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] QString availableVersionDisplayString() const { return m_availableVersionDisplayString; }
 
     [[nodiscard]] Updater* updater() const { return m_updater; }
+    // Built for a distribution, whose package manager brings new versions: Velto does not look for them.
+    [[nodiscard]] bool isUpdatedBySystem() const { return m_updatedBySystem; }
+    void setUpdatedBySystem(bool bySystem) { m_updatedBySystem = bySystem; }
     void setUpdater(Updater* updater) { m_updater = updater; }
 
     // Do nothing once the updater is gone.
@@ -46,6 +49,7 @@ private:
     bool m_updateAvailable = false;
     QString m_availableVersionDisplayString;
     QPointer<Updater> m_updater;
+    bool m_updatedBySystem = false;
 };
 
 } // namespace velto

@@ -170,8 +170,18 @@ ColumnLayout {
                 onClicked: pane.paneModel.checkForUpdates()
             }
         }
+        Label {
+            objectName: "updatedBySystem"
+            visible: pane.paneModel.updatedBySystem
+            Layout.fillWidth: true
+            wrapMode: Text.WordWrap
+            text: qsTr("Updates come from your system's package manager.")
+            font.pixelSize: 13
+            color: Theme.secondaryText
+        }
         TintedButton {
             objectName: "checkForUpdates"
+            visible: !pane.paneModel.updatedBySystem
             text: qsTr("Check for Updates…")
             Accessible.name: text
             onClicked: pane.paneModel.checkForUpdates()

@@ -69,6 +69,7 @@ class SettingsPaneModel final : public QObject {
     Q_PROPERTY(bool enablingGnomeExtension READ enablingGnomeExtension NOTIFY gnomeExtensionChanged)
 
     Q_PROPERTY(bool updateAvailable READ updateAvailable NOTIFY updateChanged)
+    Q_PROPERTY(bool updatedBySystem READ updatedBySystem NOTIFY updateChanged)
     Q_PROPERTY(QString updateNudgeText READ updateNudgeText NOTIFY updateChanged)
     Q_PROPERTY(QString versionText READ versionText CONSTANT)
     Q_PROPERTY(QUrl websiteUrl READ websiteUrl CONSTANT)
@@ -146,6 +147,12 @@ public:
     Q_INVOKABLE void enableGnomeExtension();
 
     [[nodiscard]] bool updateAvailable() const { return m_updateAvailable; }
+    [[nodiscard]] bool updatedBySystem() const { return m_updatedBySystem; }
+    void setUpdatedBySystem(bool bySystem)
+    {
+        m_updatedBySystem = bySystem;
+        Q_EMIT updateChanged();
+    }
     [[nodiscard]] QString updateNudgeText() const;
     [[nodiscard]] QString versionText() const;
     [[nodiscard]] QUrl websiteUrl() const { return m_about.website; }
@@ -240,6 +247,7 @@ private:
     bool m_enablingGnomeExtension = false;
     QString m_gnomeExtensionError;
     bool m_updateAvailable = false;
+    bool m_updatedBySystem = false;
     QString m_updateVersionHint;
 };
 

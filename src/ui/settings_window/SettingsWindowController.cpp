@@ -158,6 +158,7 @@ QQuickWindow* SettingsWindowController::buildWindow(SettingsManager* settingsMan
     auto* focusAppModel =
         new AddFocusAppModel(settingsManager, m_collaborators.workspace, m_collaborators.applications);
     if (UpdateAvailabilityModel* updates = m_collaborators.updates) {
+        paneModel->setUpdatedBySystem(updates->isUpdatedBySystem());
         QPointer<UpdateAvailabilityModel> guarded(updates);
         auto sync = [paneModel, guarded] {
             if (guarded)

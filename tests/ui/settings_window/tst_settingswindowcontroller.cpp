@@ -644,6 +644,16 @@ private Q_SLOTS:
         QCOMPARE(silentChecks, 2);
         QVERIFY(!isShown(about->findChild<QObject*>(u"updateNudge"_s)));
         QVERIFY(!about->findChild<QObject*>(u"versionText"_s)->property("text").toString().isEmpty());
+        QVERIFY(isShown(about->findChild<QObject*>(u"checkForUpdates"_s)));
+        QVERIFY(!isShown(about->findChild<QObject*>(u"updatedBySystem"_s)));
+
+        // A distribution's package: the package manager updates Velto, and the pane says so instead.
+        Fixture packaged;
+        packaged.updates.setUpdatedBySystem(true);
+        packaged.open();
+        about = packaged.pane(5);
+        QVERIFY(!isShown(about->findChild<QObject*>(u"checkForUpdates"_s)));
+        QVERIFY(isShown(about->findChild<QObject*>(u"updatedBySystem"_s)));
     }
 };
 
