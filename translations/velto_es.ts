@@ -1534,7 +1534,7 @@ de actualizaciones, o no hay GNOME Shell o extensión, o no se ha podido activar
     </message>
     <message>
         <source>Save your place and finish the thought you’re on. A quick reset is almost here.</source>
-        <translation>Guarda por dónde vas y termina la idea que tienes entre manos. Un pequeño respiro está a punto de llegar.</translation>
+        <translation>Guarda por dónde vas y termina la idea. Se acerca un pequeño respiro.</translation>
     </message>
     <message numerus="yes">
         <source>Break in %n seconds</source>

@@ -1530,7 +1530,7 @@ de mises à jour a échoué, sans GNOME Shell ou sans extension, ou si son activ
     </message>
     <message>
         <source>Wrap up or park your task. You’re nearly at a longer chance to step away.</source>
-        <translation>Bouclez ou mettez de côté votre tâche&#xa0;: vous approchez d’un moment plus long pour vous éloigner de l’écran.</translation>
+        <translation>Terminez ou mettez de côté votre tâche : une pause plus longue approche.</translation>
     </message>
     <message>
         <source>Save your place and finish the thought you’re on. A quick reset is almost here.</source>

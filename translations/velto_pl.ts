@@ -1526,7 +1526,7 @@ się nie powiodło, nie ma GNOME Shell lub rozszerzenia albo nie udało się go 
     <message>
         <source>Deep rest coming up</source>
         <extracomment>The title of the notice shown shortly before a break.</extracomment>
-        <translation>Zbliża się dłuższy odpoczynek</translation>
+        <translation>Nadchodzi dłuższa przerwa</translation>
     </message>
     <message>
         <source>Quick break coming up</source>

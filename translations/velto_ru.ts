@@ -1538,7 +1538,7 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     </message>
     <message>
         <source>Save your place and finish the thought you’re on. A quick reset is almost here.</source>
-        <translation>Запомните, где остановились, и доведите мысль до конца. Короткая передышка уже близко.</translation>
+        <translation>Запомните, где остановились, и закончите мысль. Скоро короткая передышка.</translation>
     </message>
     <message numerus="yes">
         <source>Break in %n seconds</source>

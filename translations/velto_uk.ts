@@ -1526,7 +1526,7 @@ failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for b
     <message>
         <source>Deep rest coming up</source>
         <extracomment>The title of the notice shown shortly before a break.</extracomment>
-        <translation>Скоро повноцінний відпочинок</translation>
+        <translation>Скоро довга перерва</translation>
     </message>
     <message>
         <source>Quick break coming up</source>

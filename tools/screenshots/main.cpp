@@ -2,6 +2,7 @@
 // backgrounds. Usage: velto_screenshots OUTPUT_DIR
 #include "BreakWindow.h"
 #include "InMemoryUserDefaults.h"
+#include "ScreenshotLanguage.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
 #include "settings/UserDefaultsStore.h"
@@ -37,6 +38,7 @@ int main(int argc, char** argv)
     BreakWindow::useSoftwareRendering();
     QGuiApplication app(argc, argv);
     const QString outputDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"docs/screenshots"_s;
+    const QString language = useScreenshotLanguage();
     QDir().mkpath(outputDir);
 
     const QList<Shot> shots = {
@@ -110,7 +112,7 @@ int main(int argc, char** argv)
         // One frame is enough: the ring starts at its value; waiting longer would let the break timer tick.
         QTest::qWait(50);
         const QImage image = window->grabWindow();
-        const QString path = outputDir + u'/' + shot.name + u".png"_s;
+        const QString path = outputDir + u'/' + shot.name + language + u".png"_s;
         if (!image.save(path)) {
             std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
             return 1;

@@ -17,6 +17,7 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 #include <QWheelEvent>
 
 using namespace velto;
@@ -168,6 +169,43 @@ private Q_SLOTS:
         QVERIFY(right(item(panel, u"upcomingLabel"_s)) <= left(item(panel, u"dismissButton"_s)));
         for (const char* name : {"breakNowButton", "pauseOneMinuteButton", "pauseThreeMinutesButton", "skipButton"})
             QVERIFY2(right(item(panel, QLatin1String(name))) <= panel->width() - 22, name);
+    }
+
+    // Each language Velto ships, on a card of the fixed size: no text cut short, no button off the card.
+    void everyLanguageFitsTheCard_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<BreakType>("type");
+        for (const char* language : {"de", "fr", "es", "it", "pt_BR", "nl", "pl", "ru", "uk", "ja", "zh_CN", "ko"}) {
+            QTest::addRow("%s short", language) << QString::fromLatin1(language) << BreakType::Short;
+            QTest::addRow("%s long", language) << QString::fromLatin1(language) << BreakType::Long;
+        }
+    }
+
+    void everyLanguageFitsTheCard()
+    {
+        QFETCH(QString, language);
+        QFETCH(BreakType, type);
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(VELTO_TRANSLATIONS_BUILT "/velto_") + language + u".qm"_s));
+        QCoreApplication::installTranslator(&translator);
+        const auto uninstall = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+        Rig rig;
+        QQuickWindow* panel = rig.show(type, 125);
+        QVERIFY(panel != nullptr);
+        finish(rig.host()->runningAnimation());
+        for (const char* name : {"upcomingLabel", "titleText", "bodyText", "breakInLabel", "swipeHint"}) {
+            QQuickItem* text = item(panel, QLatin1String(name));
+            QVERIFY2(text, name);
+            const QQuickItem* label = text->property("truncated").isValid() ? text : text->findChild<QQuickItem*>();
+            QVERIFY2(label && !label->property("truncated").toBool(),
+                     qPrintable(QLatin1String(name) + u": "_s + text->property("text").toString()));
+        }
+        for (const char* name : {"breakNowButton", "pauseOneMinuteButton", "pauseThreeMinutesButton", "skipButton"})
+            QVERIFY2(item(panel, QLatin1String(name))
+                             ->mapToScene(QPointF(item(panel, QLatin1String(name))->width(), 0))
+                             .x() <= panel->width() - 22,
+                     name);
     }
 
     void arrivesAndLeavesWithTheRightMotion_data()
