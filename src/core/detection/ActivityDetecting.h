@@ -17,6 +17,9 @@ public:
     [[nodiscard]] virtual QString activityStatusText() const = 0;
     // The icon name shown with that line.
     [[nodiscard]] virtual QString activityStatusSymbolName() const = 0;
+    // What holds breaks, as a stable raw name for the history ("meeting", "video", "screenRecording",
+    // "fullscreenGame", "focusApp", "idle"); empty when nothing does or only the cool-down is left.
+    [[nodiscard]] virtual QString activityKind() const { return {}; }
 };
 
 } // namespace velto

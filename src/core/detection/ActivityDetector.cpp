@@ -237,6 +237,24 @@ bool ActivityDetector::isActivityDetected() const
     return elapsed < 0 || elapsed < m_settings.cooldownAfterActivity;
 }
 
+QString ActivityDetector::activityKind() const
+{
+    // The same order as the status line's.
+    if (m_isInMeeting)
+        return u"meeting"_s;
+    if (m_isWatchingVideo)
+        return u"video"_s;
+    if (m_isScreenRecording)
+        return u"screenRecording"_s;
+    if (m_isInFullscreenGame)
+        return u"fullscreenGame"_s;
+    if (m_isInDeepFocusApp)
+        return u"focusApp"_s;
+    if (m_isIdle)
+        return u"idle"_s;
+    return {};
+}
+
 QString ActivityDetector::activityStatusText() const
 {
     return status(true).text;

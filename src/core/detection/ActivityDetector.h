@@ -79,6 +79,7 @@ public:
     [[nodiscard]] bool isActivityDetected() const override;
     [[nodiscard]] QString activityStatusText() const override;
     [[nodiscard]] QString activityStatusSymbolName() const override;
+    [[nodiscard]] QString activityKind() const override;
 
     // The first pass comes one interval after starting; starting again while monitoring changes nothing.
     Q_INVOKABLE void startMonitoring();

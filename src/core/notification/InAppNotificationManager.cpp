@@ -132,7 +132,9 @@ void InAppNotificationManager::breakNowFromNotification()
 
 void InAppNotificationManager::pauseFromNotification(double seconds)
 {
+    const std::optional<BreakType> upcoming = m_currentBreakType;
     dismiss();
+    Q_EMIT breakPostponed(upcoming, seconds);
     if (onPause)
         onPause(seconds);
 }

@@ -75,6 +75,8 @@ Q_SIGNALS:
     void isShowingChanged(bool isShowing);
     void currentBreakTypeChanged(const std::optional<velto::BreakType>& currentBreakType);
     void currentTimeRemainingChanged(double currentTimeRemaining);
+    // The card's pause buttons: the coming break moves this many seconds away. Before onPause is called.
+    void breakPostponed(const std::optional<velto::BreakType>& upcoming, double seconds);
 
 private:
     void setIsShowing(bool value);

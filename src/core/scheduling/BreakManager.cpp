@@ -205,6 +205,8 @@ void BreakManager::start()
 
 void BreakManager::stop()
 {
+    if (m_state == BreakState::OnBreak)
+        Q_EMIT breakEnded(m_currentBreakType, BreakOutcome::Stopped, m_plannedBreakSeconds - m_breakTimeRemaining);
     setState(BreakState::Idle);
     m_workTimer.stop();
     m_breakTimer.stop();
@@ -212,22 +214,22 @@ void BreakManager::stop()
     m_preBreakNotificationSent = false;
 }
 
-void BreakManager::takeBreakNow()
+void BreakManager::takeBreakNow(BreakOrigin origin)
 {
     if (isAsleep())
         return;
     m_workTimer.stop();
     setCurrentBreakType(upcomingBreakType());
-    startBreak();
+    startBreak(origin);
 }
 
-void BreakManager::startLongBreak()
+void BreakManager::startLongBreak(BreakOrigin origin)
 {
     if (isAsleep())
         return;
     m_workTimer.stop();
     setCurrentBreakType(BreakType::Long);
-    startBreak();
+    startBreak(origin);
 }
 
 void BreakManager::skipUpcomingBreak()
@@ -236,7 +238,7 @@ void BreakManager::skipUpcomingBreak()
         return;
     switch (m_state) {
     case BreakState::OnBreak:
-        endBreak(false);
+        endBreakWith(BreakOutcome::Skipped);
         break;
     case BreakState::Idle:
         start();
@@ -245,7 +247,7 @@ void BreakManager::skipUpcomingBreak()
         break;
     case BreakState::Working:
     case BreakState::Paused:
-        restartWorkInterval();
+        restartBeforeBreak();
         break;
     }
 }
@@ -256,7 +258,7 @@ void BreakManager::skipBreak()
         return;
     switch (m_state) {
     case BreakState::OnBreak:
-        endBreak(false);
+        endBreakWith(BreakOutcome::Skipped);
         break;
     case BreakState::Idle:
         start();
@@ -266,7 +268,7 @@ void BreakManager::skipBreak()
         // Outside a break the screen's Skip only acts once the break is near.
         const double lead = m_settingsManager->notificationSettings().preBreakNotificationTime;
         if (m_preBreakNotificationSent || (m_timeRemaining > 0 && m_timeRemaining <= lead))
-            restartWorkInterval();
+            restartBeforeBreak();
         break;
     }
     }
@@ -286,7 +288,15 @@ void BreakManager::restartWorkInterval()
         onTimerUpdate(m_timeRemaining);
 }
 
-void BreakManager::startBreak()
+void BreakManager::restartBeforeBreak()
+{
+    const BreakType upcoming = upcomingBreakType();
+    const double left = m_timeRemaining;
+    restartWorkInterval();
+    Q_EMIT upcomingBreakSkipped(upcoming, left);
+}
+
+void BreakManager::startBreak(BreakOrigin origin)
 {
     if (isAsleep() || !m_settingsManager)
         return;
@@ -299,6 +309,8 @@ void BreakManager::startBreak()
         setBreakTimeRemaining(configuration.longBreakDuration);
         setShortBreakCount(0);
     }
+    m_plannedBreakSeconds = m_breakTimeRemaining;
+    Q_EMIT breakStarted(m_currentBreakType, origin, m_plannedBreakSeconds);
     if (onBreakStart)
         onBreakStart(m_currentBreakType);
     startTimer(m_breakTimer);
@@ -306,8 +318,18 @@ void BreakManager::startBreak()
 
 void BreakManager::endBreak(bool completed)
 {
+    if (!completed)
+        endBreakWith(BreakOutcome::Skipped);
+    else
+        endBreakWith(m_breakTimeRemaining <= 0 ? BreakOutcome::Completed : BreakOutcome::EndedEarly);
+}
+
+void BreakManager::endBreakWith(BreakOutcome outcome)
+{
     if (isAsleep() || m_state != BreakState::OnBreak)
         return;
+    const bool completed = outcome == BreakOutcome::Completed || outcome == BreakOutcome::EndedEarly;
+    Q_EMIT breakEnded(m_currentBreakType, outcome, m_plannedBreakSeconds - m_breakTimeRemaining);
     m_breakTimer.stop();
     resetDailyCountIfDayChanged();
     if (completed) {
@@ -359,12 +381,15 @@ void BreakManager::handleSleep(SleepSource source)
         return;
     m_workTimer.stop();
     m_breakTimer.stop();
+    if (m_sleepingSources.size() == 1)
+        Q_EMIT asleepChanged(true);
 }
 
 void BreakManager::handleWake(SleepSource source)
 {
     if (m_sleepingSources.erase(source) == 0 || isAsleep())
         return;
+    Q_EMIT asleepChanged(false);
     resetDailyCountIfDayChanged();
     if (m_state == BreakState::Working)
         startTimer(m_workTimer);
@@ -405,6 +430,7 @@ void BreakManager::workTick()
         return;
 
     setTimeRemaining(m_timeRemaining - 1.0);
+    Q_EMIT workSecondCounted();
     if (onTimerUpdate)
         onTimerUpdate(m_timeRemaining);
 
@@ -418,7 +444,7 @@ void BreakManager::workTick()
     if (m_timeRemaining <= 0) {
         m_workTimer.stop();
         setCurrentBreakType(upcomingBreakType());
-        startBreak();
+        startBreak(BreakOrigin::Scheduled);
     }
 }
 

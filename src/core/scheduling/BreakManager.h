@@ -81,8 +81,8 @@ public:
 
     Q_INVOKABLE void start();
     Q_INVOKABLE void stop();
-    Q_INVOKABLE void takeBreakNow();
-    Q_INVOKABLE void startLongBreak();
+    Q_INVOKABLE void takeBreakNow(velto::Scheduling::BreakOrigin origin = BreakOrigin::Menu);
+    Q_INVOKABLE void startLongBreak(velto::Scheduling::BreakOrigin origin = BreakOrigin::Menu);
     // From the pre-break card: also ends a running break or restarts the interval at any time.
     Q_INVOKABLE void skipUpcomingBreak();
     // From the break screen: outside a break only once the break is near.
@@ -116,6 +116,17 @@ Q_SIGNALS:
     void dailyBreakCountChanged(qint64 dailyBreakCount);
     void pauseReasonChanged(const std::optional<velto::PauseReason>& pauseReason);
 
+    // What happened, for the history. A break's seconds are its planned length when it starts and the seconds
+    // its countdown ran when it ends.
+    void breakStarted(velto::BreakType type, velto::Scheduling::BreakOrigin origin, double plannedSeconds);
+    void breakEnded(velto::BreakType type, velto::Scheduling::BreakOutcome outcome, double elapsedSeconds);
+    // The interval restarted before its break came, with this much of it left.
+    void upcomingBreakSkipped(velto::BreakType upcoming, double secondsLeft);
+    // One second of work counted down.
+    void workSecondCounted();
+    // The first sleep source went to sleep, or the last one woke.
+    void asleepChanged(bool asleep);
+
 private:
     void setState(BreakState value);
     void setTimeRemaining(double value);
@@ -128,7 +139,9 @@ private:
     void changePauseReason(const std::optional<PauseReason>& value);
 
     void startTimer(QTimer& timer);
-    void startBreak();
+    void startBreak(BreakOrigin origin);
+    void endBreakWith(BreakOutcome outcome);
+    void restartBeforeBreak();
     [[nodiscard]] bool canSkip() const;
     [[nodiscard]] bool isAsleep() const { return !m_sleepingSources.empty(); }
     [[nodiscard]] BreakType upcomingBreakType() const;
@@ -143,6 +156,7 @@ private:
     BreakState m_state = BreakState::Idle;
     double m_timeRemaining = 0;
     double m_breakTimeRemaining = 0;
+    double m_plannedBreakSeconds = 0;
     BreakType m_currentBreakType = BreakType::Short;
     qint64 m_shortBreakCount = 0;
     qint64 m_dailyBreakCount = 0;

@@ -27,8 +27,28 @@ enum class SleepSource {
 };
 Q_ENUM_NS(SleepSource)
 
+// Who started a break.
+enum class BreakOrigin {
+    Scheduled,   // the work countdown ran out
+    Menu,        // the tray menu or the top-bar indicator
+    Card,        // the pre-break card's "Break now"
+    CommandLine, // `velto break` and the D-Bus interface
+};
+Q_ENUM_NS(BreakOrigin)
+
+// How a break ended.
+enum class BreakOutcome {
+    Completed,  // its countdown ran out
+    EndedEarly, // "End Break" in its second half; counted like a completed one
+    Skipped,
+    Stopped, // reminders were switched off
+};
+Q_ENUM_NS(BreakOutcome)
+
 } // namespace Scheduling
 
+using Scheduling::BreakOrigin;
+using Scheduling::BreakOutcome;
 using Scheduling::BreakState;
 using Scheduling::PauseKind;
 using Scheduling::SleepSource;
