@@ -4,8 +4,11 @@
 #include "detection/ActivityDetecting.h"
 #include "notification/InAppNotificationManager.h"
 #include "scheduling/BreakManager.h"
+#include "settings/UserDefaultsStore.h"
 
 #include <QMetaEnum>
+
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -143,24 +146,41 @@ void HistoryRecorder::watchDetector(QObject* detector)
     connect(detector, SIGNAL(objectWillChange()), this, SLOT(detectorChanged()), Qt::QueuedConnection);
 }
 
-void HistoryRecorder::setRetentionDays(std::optional<int> days)
+void HistoryRecorder::setRetentionDays(int days)
 {
-    m_retentionDays = days;
+    m_retentionDays = std::max(0, days);
+    if (m_settings)
+        m_settings->write(HistoryKeys::retentionDays.toString(), m_retentionDays);
     prune();
 }
 
 void HistoryRecorder::prune()
 {
-    if (m_retentionDays && *m_retentionDays > 0)
-        m_store.prune(now().addDays(-*m_retentionDays));
+    if (m_retentionDays > 0)
+        m_store.prune(now().addDays(-m_retentionDays));
+}
+
+void HistoryRecorder::clearHistory()
+{
+    m_store.clear();
+    // What runs now starts afresh from this moment, so nothing from before the clearing comes back.
+    const QDateTime moment = now();
+    for (std::optional<Interval>* slot : {&m_pause, &m_hold, &m_sleep}) {
+        if (*slot)
+            (*slot)->start = moment;
+    }
+    m_unsavedWorkSeconds = 0;
+    m_stretchSeconds = 0;
+    m_longestStretchToday = 0;
+    m_longestStretchUnsaved = false;
 }
 
 void HistoryRecorder::countWorkSecond()
 {
-    const QDate today = event(HistoryEventKind::Paused, now()).localDate();
-    if (today != m_day) {
+    const QDate day = today();
+    if (day != m_day) {
         flush();
-        m_day = today;
+        m_day = day;
         m_stretchSeconds = 0;
         m_longestStretchToday = 0;
         prune();
@@ -217,20 +237,6 @@ QList<HistoryEvent> HistoryRecorder::openIntervals() const
             open.append(closed(**slot, end));
     }
     return open;
-}
-
-void HistoryRecorder::forgetOpenIntervals()
-{
-    // Ongoing ones start afresh from now, so nothing from before the clearing comes back.
-    const QDateTime moment = now();
-    for (std::optional<Interval>* slot : {&m_pause, &m_hold, &m_sleep}) {
-        if (*slot)
-            (*slot)->start = moment;
-    }
-    m_unsavedWorkSeconds = 0;
-    m_stretchSeconds = 0;
-    m_longestStretchToday = 0;
-    m_longestStretchUnsaved = false;
 }
 
 void HistoryRecorder::pauseReasonChanged(const std::optional<PauseReason>& reason)

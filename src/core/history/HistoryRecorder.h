@@ -16,6 +16,13 @@ class ActivityDetecting;
 class BreakManager;
 class HistoryStoring;
 class InAppNotificationManager;
+class UserDefaultsStore;
+
+namespace HistoryKeys {
+// Days of history kept; 0 keeps everything.
+inline constexpr QStringView retentionDays = u"historyRetentionDays";
+inline constexpr int defaultRetentionDays = 365;
+} // namespace HistoryKeys
 
 // Turns what the scheduler, the card and Smart Pause do into history: breaks started and ended, upcoming breaks
 // skipped or postponed, pauses and Smart Pause holds (written when they end), and each day's counted work time
@@ -41,15 +48,20 @@ public:
     // A QObject implementing ActivityDetecting whose objectWillChange() marks a change of what it sees.
     void watchDetector(QObject* detector);
 
-    // Events older than this many days are forgotten, now and at each new day; none keeps everything.
-    void setRetentionDays(std::optional<int> days);
+    [[nodiscard]] HistoryStoring& store() const { return m_store; }
+    // Events older than this many days are forgotten, now and at each new day; 0 keeps everything. Kept in the
+    // settings store; a stored value that is no whole number of days reads as the default.
+    [[nodiscard]] int retentionDays() const { return m_retentionDays; }
+    void setRetentionDays(int days);
+    // Forgets the whole history, what is not written yet included; what runs now starts afresh.
+    void clearHistory();
 
     // Writes the work time counted since the last write.
     void flush();
     // The pauses and holds still running, as if they ended now; they are not in the store yet.
     [[nodiscard]] QList<HistoryEvent> openIntervals() const;
-    // Stops recording: open intervals and counted work are dropped; for "Clear History".
-    void forgetOpenIntervals();
+    // The local day the recorder counts work on: today, as the history splits days.
+    [[nodiscard]] QDate today() const;
 
 private Q_SLOTS:
     void detectorChanged();
@@ -74,9 +86,10 @@ private:
     void pauseReasonChanged(const std::optional<PauseReason>& reason);
 
     HistoryStoring& m_store;
+    UserDefaultsStore* m_settings = nullptr;
     std::optional<QTimeZone> m_calendar;
     Clock m_now;
-    std::optional<int> m_retentionDays;
+    int m_retentionDays = HistoryKeys::defaultRetentionDays;
     QPointer<QObject> m_detector;
 
     std::optional<Interval> m_pause; // manual, timed, office hours, reminders off
