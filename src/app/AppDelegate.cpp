@@ -9,6 +9,7 @@
 #include "UpdateWindow.h"
 #include "VeltoWindows.h"
 #include "detection/ActivityDetector.h"
+#include "history/HistoryRecorder.h"
 #include "notification/InAppNotificationManager.h"
 #include "scheduling/BreakManager.h"
 #include "settings/SettingsManager.h"
@@ -41,6 +42,14 @@ AppDelegate::AppDelegate(AppServices services, QObject* parent)
         new InAppNotificationManager(std::move(presenter), m_services.sounds.get(), m_settingsManager, {}, {}, this);
     // Built now, started only when reminders are on.
     m_activityDetector = new ActivityDetector(std::move(m_services.detectionProviders), this);
+    if (m_services.historyStore) {
+        // Days follow the system's local time as it changes, as the daily count's do.
+        m_historyRecorder = new HistoryRecorder(*m_services.historyStore, m_services.userDefaults.get(), std::nullopt,
+                                                HistoryRecorder::Clock(), this);
+        m_historyRecorder->watchScheduler(m_breakManager);
+        m_historyRecorder->watchCard(m_inAppNotificationManager);
+        m_historyRecorder->watchDetector(m_activityDetector);
+    }
 
     // The updater starts at once and runs its own daily checks; the model publishes what they find.
     m_updateAvailability = new UpdateAvailabilityModel(this);
@@ -59,6 +68,8 @@ AppDelegate::~AppDelegate()
 {
     m_settingsWindows.reset();
     m_breakOverlay.reset();
+    // Writes what it still holds to the history store, which the services own.
+    delete m_historyRecorder;
     delete m_statusItem;
     delete m_updaterController;
     delete m_activityDetector;
@@ -192,7 +203,7 @@ void AppDelegate::wireComponents()
     };
     m_inAppNotificationManager->onBreakNow = [self] {
         if (self)
-            self->takeBreakNow();
+            self->requestBreak(BreakOrigin::Card, false);
     };
     m_inAppNotificationManager->onPause = [self](double seconds) {
         if (self)
@@ -339,7 +350,7 @@ void AppDelegate::performPrimaryMenuAction()
     // The menu may have stayed open while the state moved on; what counts is the state now.
     switch (menuBarPresentation().primaryAction) {
     case MenuBarPrimaryAction::TakeBreak:
-        takeBreakNow();
+        requestBreak(BreakOrigin::Menu, false);
         break;
     case MenuBarPrimaryAction::Resume:
         m_breakManager->resume();
@@ -355,7 +366,7 @@ void AppDelegate::performPrimaryMenuAction()
 
 void AppDelegate::startLongBreakFromMenu()
 {
-    startLongBreak();
+    requestBreak(BreakOrigin::Menu, true);
 }
 
 void AppDelegate::pauseFromMenu()
@@ -423,16 +434,24 @@ bool AppDelegate::readyForRequestedBreak()
     return false;
 }
 
+void AppDelegate::requestBreak(BreakOrigin origin, bool longBreak)
+{
+    if (!readyForRequestedBreak())
+        return;
+    if (longBreak)
+        m_breakManager->startLongBreak(origin);
+    else
+        m_breakManager->takeBreakNow(origin);
+}
+
 void AppDelegate::takeBreakNow()
 {
-    if (readyForRequestedBreak())
-        m_breakManager->takeBreakNow();
+    requestBreak(BreakOrigin::CommandLine, false);
 }
 
 void AppDelegate::startLongBreak()
 {
-    if (readyForRequestedBreak())
-        m_breakManager->startLongBreak();
+    requestBreak(BreakOrigin::CommandLine, true);
 }
 
 void AppDelegate::pauseFor(double seconds)

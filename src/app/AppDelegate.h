@@ -16,6 +16,7 @@ namespace velto {
 class ActivityDetector;
 class BreakManager;
 class BreakOverlay;
+class HistoryRecorder;
 class InAppNotificationManager;
 class SettingsWindows;
 class SettingsManager;
@@ -69,6 +70,8 @@ public:
     [[nodiscard]] BreakManager* breakManager() const { return m_breakManager; }
     [[nodiscard]] ActivityDetector* activityDetector() const { return m_activityDetector; }
     [[nodiscard]] InAppNotificationManager* inAppNotificationManager() const { return m_inAppNotificationManager; }
+    // Null when there is no history store.
+    [[nodiscard]] HistoryRecorder* historyRecorder() const { return m_historyRecorder; }
     // Made on first use; null before, and when there are no windows.
     [[nodiscard]] SettingsWindows* settingsWindows() const { return m_settingsWindows.get(); }
     [[nodiscard]] BreakOverlay* breakOverlay() const { return m_breakOverlay.get(); }
@@ -85,6 +88,7 @@ private:
     void applyEnabled(bool enabled);
     // Whether a break asked for now may start; ends a manual pause first.
     bool readyForRequestedBreak();
+    void requestBreak(BreakOrigin origin, bool longBreak);
     void scheduleStatusItemUpdate();
 
     AppServices m_services;
@@ -94,6 +98,7 @@ private:
     BreakManager* m_breakManager = nullptr;
     InAppNotificationManager* m_inAppNotificationManager = nullptr;
     ActivityDetector* m_activityDetector = nullptr;
+    HistoryRecorder* m_historyRecorder = nullptr;
     UpdateAvailabilityModel* m_updateAvailability = nullptr;
     StandardUpdaterController* m_updaterController = nullptr;
     std::unique_ptr<SettingsWindows> m_settingsWindows;

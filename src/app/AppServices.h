@@ -3,6 +3,7 @@
 #include "detection/ApplicationInfoProviding.h"
 #include "detection/DetectionProviders.h"
 #include "detection/GnomeExtension.h"
+#include "history/HistoryStoring.h"
 #include "notification/NotificationWindowPresenting.h"
 #include "scheduling/KeyDownTimeProviding.h"
 #include "scheduling/ScreenLocking.h"
@@ -43,6 +44,8 @@ struct AppServices {
     // Velto's GNOME Shell extension, for the settings window, in sessions where Smart Pause needs it to see
     // windows (Wayland); none elsewhere and in tests.
     std::unique_ptr<GnomeExtensionControlling> gnomeExtension;
+    // Where the break history is kept; none keeps no history.
+    std::unique_ptr<HistoryStoring> historyStore;
     // Off in tests: the updater reaches out to the network on its own schedule.
     bool runsUpdater = false;
     // A distribution's package: its package manager updates Velto, and the About pane says so.

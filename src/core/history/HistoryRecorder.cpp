@@ -50,13 +50,28 @@ QString outcomeName(BreakOutcome outcome)
 
 } // namespace
 
-HistoryRecorder::HistoryRecorder(HistoryStoring& store, std::optional<QTimeZone> calendar, Clock now, QObject* parent)
+HistoryRecorder::HistoryRecorder(HistoryStoring& store, UserDefaultsStore* settings, std::optional<QTimeZone> calendar,
+                                 Clock now, QObject* parent)
     : QObject(parent)
     , m_store(store)
+    , m_settings(settings)
     , m_calendar(std::move(calendar))
     , m_now(std::move(now))
 {
-    m_day = event(HistoryEventKind::Paused, this->now()).localDate();
+    m_day = today();
+    if (m_settings) {
+        bool ok = false;
+        const QVariant stored = m_settings->read(HistoryKeys::retentionDays.toString());
+        const double days = stored.toDouble(&ok);
+        if (ok && stored.typeId() != QMetaType::QString && days >= 0 && days <= 100000 && days == std::trunc(days))
+            m_retentionDays = int(days);
+    }
+    prune();
+}
+
+QDate HistoryRecorder::today() const
+{
+    return event(HistoryEventKind::Paused, now()).localDate();
 }
 
 HistoryRecorder::~HistoryRecorder()

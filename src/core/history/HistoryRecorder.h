@@ -37,8 +37,10 @@ class HistoryRecorder final : public QObject {
 public:
     using Clock = std::function<QDateTime()>;
 
-    // The store must outlive the recorder. Without a calendar zone, days follow the system's local time.
-    explicit HistoryRecorder(HistoryStoring& store, std::optional<QTimeZone> calendar = std::nullopt, Clock now = {},
+    // The store must outlive the recorder, and so must the settings store that keeps the retention, if given.
+    // Without a calendar zone, days follow the system's local time.
+    explicit HistoryRecorder(HistoryStoring& store, UserDefaultsStore* settings = nullptr,
+                             std::optional<QTimeZone> calendar = std::nullopt, Clock now = {},
                              QObject* parent = nullptr);
     // Ends the pauses and holds still open and writes the work time not yet written.
     ~HistoryRecorder() override;
