@@ -51,6 +51,25 @@ private Q_SLOTS:
         QVERIFY(parsed.error.isEmpty());
     }
 
+    void historyOptions_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QList<int>>("daysEventsJsonCsv");
+        QTest::newRow("plain") << QStringList{u"history"_s} << QList<int>{7, 0, 0, 0};
+        QTest::newRow("a year of events as CSV")
+            << QStringList{u"history"_s, u"--csv"_s, u"--days"_s, u"365"_s, u"--events"_s} << QList<int>{365, 1, 0, 1};
+        QTest::newRow("--days=N and JSON")
+            << QStringList{u"history"_s, u"--days=30"_s, u"--json"_s} << QList<int>{30, 0, 1, 0};
+    }
+    void historyOptions()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QList<int>, daysEventsJsonCsv);
+        const CommandLine parsed = CommandLine::parse(arguments);
+        QCOMPARE(parsed.command, Command::History);
+        QCOMPARE((QList<int>{parsed.historyDays, parsed.historyEvents, parsed.json, parsed.csv}), daysEventsJsonCsv);
+    }
+
     void badArgumentsAreInvalidWithAReason_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -68,6 +87,11 @@ private Q_SLOTS:
         QTest::newRow("Qt option without its value") << QStringList{u"-platform"_s} << u"'-platform'"_s;
         QTest::newRow("gnome-extension alone") << QStringList{u"gnome-extension"_s} << u"'status' or 'enable'"_s;
         QTest::newRow("gnome-extension, unknown") << QStringList{u"gnome-extension"_s, u"on"_s} << u"'on'"_s;
+        QTest::newRow("history, no days") << QStringList{u"history"_s, u"--days"_s} << u"--days"_s;
+        QTest::newRow("history, zero days") << QStringList{u"history"_s, u"--days=0"_s} << u"'0'"_s;
+        QTest::newRow("history, days not a number") << QStringList{u"history"_s, u"--days"_s, u"week"_s} << u"'week'"_s;
+        QTest::newRow("history, JSON and CSV") << QStringList{u"history"_s, u"--json"_s, u"--csv"_s} << u"--csv"_s;
+        QTest::newRow("--csv elsewhere") << QStringList{u"status"_s, u"--csv"_s} << u"'--csv'"_s;
         QTest::newRow("gnome-extension enable --json")
             << QStringList{u"gnome-extension"_s, u"enable"_s, u"--json"_s} << u"'--json' for gnome-extension enable"_s;
     }
@@ -107,6 +131,7 @@ private Q_SLOTS:
         const QList<Command> local{Command::Run,
                                    Command::Help,
                                    Command::Version,
+                                   Command::History,
                                    Command::GnomeExtensionStatus,
                                    Command::GnomeExtensionEnable,
                                    Command::Invalid};
@@ -129,8 +154,9 @@ private Q_SLOTS:
             QVERIFY2(CommandLine::parse({first}).command != Command::Invalid, qPrintable(first));
         }
         // Too wide for the column: on a line of its own, in the section of commands that need no running Velto.
-        QVERIFY(usage.contains(u"GNOME Shell itself, with or without a running Velto:\n"
-                               u"  gnome-extension status [--json] | enable\n"_s));
+        QVERIFY(usage.contains(u"with or without a running Velto:\n"
+                               u"  history [--days N] [--events] [--json | --csv]\n"_s));
+        QVERIFY(usage.contains(u"\n  gnome-extension status [--json] | enable\n"_s));
         // A command with words of its own takes each of them.
         for (const CommandLine::Spec& spec : CommandLine::commands()) {
             for (const QString& word : spec.words)

@@ -10,6 +10,9 @@ class FakeActivityDetector final : public QObject, public velto::ActivityDetecti
     Q_INTERFACES(velto::ActivityDetecting)
 
 public:
+    // Says what it sees changes; the change itself is the test's.
+    void announceChange() { Q_EMIT objectWillChange(); }
+
     [[nodiscard]] bool isActivityDetected() const override
     {
         ++queries;
@@ -17,9 +20,14 @@ public:
     }
     [[nodiscard]] QString activityStatusText() const override { return statusText; }
     [[nodiscard]] QString activityStatusSymbolName() const override { return symbolName; }
+    [[nodiscard]] QString activityKind() const override { return kind; }
 
     bool active = false;
     QString statusText;
     QString symbolName;
+    QString kind;
     mutable int queries = 0;
+
+Q_SIGNALS:
+    void objectWillChange();
 };

@@ -85,6 +85,7 @@ bool CommandLine::talksToRunningInstance() const
     case Command::Run:
     case Command::Help:
     case Command::Version:
+    case Command::History:
     case Command::GnomeExtensionStatus:
     case Command::GnomeExtensionEnable:
     case Command::Invalid:
@@ -139,11 +140,33 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         name += u' ' + action;
         rest.removeFirst();
     }
-    const bool takesJson = result.command == Command::Status || result.command == Command::GnomeExtensionStatus;
+    const bool takesJson = result.command == Command::Status || result.command == Command::GnomeExtensionStatus ||
+                           result.command == Command::History;
+    const bool history = result.command == Command::History;
+    bool daysGiven = false;
     for (qsizetype i = 0; i < rest.size(); ++i) {
         const QString& argument = rest.at(i);
-        if (takesJson && argument == u"--json"_s && !result.json) {
+        if (takesJson && argument == u"--json"_s && !result.json && !result.csv) {
             result.json = true;
+        } else if (history && argument == u"--csv"_s && !result.json && !result.csv) {
+            result.csv = true;
+        } else if (history && (argument == u"--json"_s || argument == u"--csv"_s)) {
+            return invalid(tr("give only one of --json and --csv"));
+        } else if (history && argument == u"--events"_s && !result.historyEvents) {
+            result.historyEvents = true;
+        } else if (history && !daysGiven && (argument == u"--days"_s || argument.startsWith(u"--days="_s))) {
+            const bool joined = argument.startsWith(u"--days="_s);
+            if (!joined && i + 1 >= rest.size())
+                return invalid(tr("--days needs a number of days"));
+            const QString value = joined ? argument.mid(7) : rest.at(++i);
+            bool ok = false;
+            const int days = value.toInt(&ok);
+            if (!ok || days < 1 || days > maximumHistoryDays)
+                //: %1: the largest number allowed; %2: what was given instead.
+                return invalid(
+                    tr("--days must be a whole number from 1 to %1, not '%2'").arg(maximumHistoryDays).arg(value));
+            result.historyDays = days;
+            daysGiven = true;
         } else if (result.command == Command::TakeBreak && argument == u"--long"_s && !result.longBreak) {
             result.longBreak = true;
         } else if (result.command == Command::Pause && i == 0 && !argument.startsWith(u'-')) {
@@ -195,6 +218,13 @@ const QList<CommandLine::Spec>& CommandLine::commands()
          {},
          {}},
         {u"quit"_s, Command::Quit, {}, QT_TRANSLATE_NOOP("CommandLine", "Quit Velto"), {}, {}},
+        {u"history"_s,
+         Command::History,
+         u"[--days N] [--events] [--json | --csv]"_s,
+         QT_TRANSLATE_NOOP("CommandLine",
+                           "Show the breaks of the last N days (%1 if not given), a line a day or every event"),
+         {u"--days"_s, u"--events"_s, u"--json"_s, u"--csv"_s},
+         {}},
         {u"gnome-extension"_s,
          Command::GnomeExtensionStatus, // or GnomeExtensionEnable, by the word after it
          u"status [--json] | enable"_s,
@@ -210,7 +240,9 @@ const QList<CommandLine::Spec>& CommandLine::commands()
 QString CommandLine::summaryText(const Spec& spec)
 {
     const QString text = tr(spec.summary);
-    return text.contains(u"%1"_s) ? text.arg(defaultPauseMinutes) : text;
+    if (!text.contains(u"%1"_s))
+        return text;
+    return text.arg(spec.command == Command::History ? defaultHistoryDays : defaultPauseMinutes);
 }
 
 QString CommandLine::usage()
@@ -241,7 +273,7 @@ QString CommandLine::usage()
     QString text = tr("Usage: velto [COMMAND]") + u"\n\n"_s +
                    tr("Without a command, starts Velto; if Velto is already running, opens its settings instead.") +
                    u"\n\n"_s + tr("Commands for the running Velto:") + u'\n' + forRunning + u'\n' +
-                   tr("Commands that ask GNOME Shell itself, with or without a running Velto:") + u'\n' + alone;
+                   tr("Commands that work with or without a running Velto:") + u'\n' + alone;
     text += u'\n' + tr("Options:") + u'\n' + line(u"-h, --help"_s, tr("Show this help")) +
             line(u"-v, --version"_s, tr("Show the version")) + u'\n' +
             tr("Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"

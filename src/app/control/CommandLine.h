@@ -31,6 +31,7 @@ struct CommandLine {
         Settings,
         CheckUpdates,
         Quit,
+        History,
         GnomeExtensionStatus,
         GnomeExtensionEnable,
         Invalid,
@@ -38,9 +39,14 @@ struct CommandLine {
 
     static constexpr int defaultPauseMinutes = 15;
     static constexpr int maximumPauseMinutes = int(ControlBus::longestPauseSeconds / 60);
+    static constexpr int defaultHistoryDays = 7;
+    static constexpr int maximumHistoryDays = 3660;
 
     Command command = Command::Run;
-    bool json = false;                      // status, gnome-extension status
+    bool json = false;                      // status, gnome-extension status, history
+    bool csv = false;                       // history
+    bool historyEvents = false;             // history: every event rather than a line a day
+    int historyDays = defaultHistoryDays;   // history
     bool longBreak = false;                 // break
     int pauseMinutes = defaultPauseMinutes; // pause
     QString error;                          // Invalid: what was wrong, one line
