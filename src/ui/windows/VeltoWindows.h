@@ -13,6 +13,7 @@ namespace velto {
 class ApplicationInfoProviding;
 class BreakManager;
 class GnomeExtensionControlling;
+class HistoryRecorder;
 class NotificationWindowPresenting;
 class ScreenLocking;
 class SettingsManager;
@@ -60,6 +61,8 @@ public:
         // Velto's GNOME Shell extension, where Smart Pause needs it (GNOME on Wayland): the Smart Pause pane tells
         // its state and offers to enable it. None tells nothing.
         GnomeExtensionControlling* gnomeExtension = nullptr;
+        // The break history the History pane shows and clears; none shows an empty history.
+        HistoryRecorder* history = nullptr;
     };
 
     virtual ~VeltoWindows() = default;
