@@ -9,6 +9,7 @@ ApplicationWindow {
 
     required property SettingsPaneModel paneModel
     required property AddFocusAppModel focusAppModel
+    required property HistoryPaneModel historyModel
     property int selectedTab: 0
     property int detailLayoutRemountPass: 0
     property bool sidebarVisible: true
@@ -21,6 +22,8 @@ ApplicationWindow {
         { title: qsTr("Smart Pause"), symbol: "pause.circle" },
         { title: qsTr("Notifications"), symbol: "bell" },
         { title: qsTr("Appearance"), symbol: "paintbrush" },
+        //: A settings category: the record of breaks taken and skipped.
+        { title: qsTr("History"), symbol: "chart.bar" },
         { title: qsTr("About"), symbol: "info.circle" }
     ]
     readonly property alias detailPane: paneLoader.item
@@ -188,7 +191,7 @@ ApplicationWindow {
                         SymbolIcon {
                             objectName: "updateDot"
                             Layout.minimumWidth: size
-                            visible: tabRow.index === 5 && window.paneModel.updateAvailable
+                            visible: tabRow.modelData.symbol === "info.circle" && window.paneModel.updateAvailable
                             name: "circle.fill"
                             size: 7
                             color: tabRow.selected ? Theme.accentText : Theme.accent
@@ -228,7 +231,7 @@ ApplicationWindow {
                 width: detail.availableWidth - 48
                 height: item ? item.implicitHeight + 32 : 0
                 sourceComponent: [generalPane, breaksPane, smartPausePane, notificationsPane, appearancePane,
-                                  aboutPane][window.selectedTab]
+                                  historyPane, aboutPane][window.selectedTab]
                 onRemountKeyChanged: {
                     active = false;
                     active = true;
@@ -245,5 +248,6 @@ ApplicationWindow {
     }
     Component { id: notificationsPane; NotificationsPane { paneModel: window.paneModel } }
     Component { id: appearancePane; AppearancePane { paneModel: window.paneModel } }
+    Component { id: historyPane; HistoryPane { historyModel: window.historyModel } }
     Component { id: aboutPane; AboutPane { paneModel: window.paneModel } }
 }

@@ -4,6 +4,7 @@
 #include "ApplicationIconProvider.h"
 #include "BreakWindow.h"
 #include "FreedMemory.h"
+#include "HistoryPaneModel.h"
 #include "SettingsBuildNumber.h"
 #include "SettingsPaneModel.h"
 #include "UpdateAvailabilityModel.h"
@@ -177,17 +178,22 @@ QQuickWindow* SettingsWindowController::buildWindow(SettingsManager* settingsMan
         };
     }
 
-    QObject* root = component.createWithInitialProperties(
-        {{u"paneModel"_s, QVariant::fromValue(paneModel)}, {u"focusAppModel"_s, QVariant::fromValue(focusAppModel)}});
+    auto* historyModel = new HistoryPaneModel(m_collaborators.history);
+
+    QObject* root = component.createWithInitialProperties({{u"paneModel"_s, QVariant::fromValue(paneModel)},
+                                                           {u"focusAppModel"_s, QVariant::fromValue(focusAppModel)},
+                                                           {u"historyModel"_s, QVariant::fromValue(historyModel)}});
     auto* window = qobject_cast<QQuickWindow*>(root);
     if (!window) {
         delete root;
         delete paneModel;
         delete focusAppModel;
+        delete historyModel;
         return nullptr;
     }
     paneModel->setParent(window);
     focusAppModel->setParent(window);
+    historyModel->setParent(window);
     return window;
 }
 

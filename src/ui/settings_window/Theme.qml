@@ -14,6 +14,8 @@ QtObject {
     readonly property color accent: palette.highlight
     readonly property color accentText: palette.highlightedText
     readonly property color red: dark ? "#ff6961" : "#d70015"
+    // A skipped break: set apart from the accent without the alarm of red.
+    readonly property color orange: dark ? "#ffa94d" : "#d9730d"
     readonly property int captionSize: 12
     readonly property int rowSize: 14
     readonly property int footnoteSize: 11

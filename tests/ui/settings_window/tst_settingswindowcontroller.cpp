@@ -3,12 +3,15 @@
 #include "FakeDetectionProviders.h"
 #include "FakeGnomeExtension.h"
 #include "FakeScreenLock.h"
+#include "HistoryPaneModel.h"
+#include "InMemoryHistoryStore.h"
 #include "InMemoryUserDefaults.h"
 #include "PseudoTranslator.h"
 #include "SettingsPaneModel.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
 #include "detection/DetectionCoverage.h"
+#include "history/HistoryRecorder.h"
 #include "settings/SettingsManager.h"
 
 #include <QAccessible>
@@ -133,8 +136,11 @@ private:
         UpdateAvailabilityModel updates;
         QVariantMap detectionSources;
         FakeGnomeExtension gnomeExtension;
+        InMemoryHistoryStore historyStore;
+        HistoryRecorder history{historyStore};
         SettingsWindowController controller{{&lock, &workspace, &applications, &updates, &store.writeState(),
-                                             [this] { return detectionSources; }, u"GNOME"_s, &gnomeExtension}};
+                                             [this] { return detectionSources; }, u"GNOME"_s, &gnomeExtension,
+                                             &history}};
 
         QQuickWindow* open()
         {
@@ -155,6 +161,30 @@ private:
         SettingsPaneModel* paneModel()
         {
             return controller.settingsWindow()->property("paneModel").value<SettingsPaneModel*>();
+        }
+        // Breaks that ended just now, taken and skipped.
+        void recordBreaks(int taken, int skipped)
+        {
+            const QDateTime now = QDateTime::currentDateTime();
+            for (int i = 0; i < taken + skipped; ++i) {
+                HistoryEvent ended{HistoryEventKind::BreakEnded,
+                                   now.toUTC(),
+                                   int(now.offsetFromUtc()),
+                                   BreakType::Short,
+                                   (i < taken ? HistoryNames::completed : HistoryNames::skipped).toString(),
+                                   20};
+                historyStore.append(ended);
+            }
+        }
+        // The History pane once its read has come back.
+        QObject* historyPane()
+        {
+            QObject* pane = this->pane(5);
+            auto* model = controller.settingsWindow()->property("historyModel").value<HistoryPaneModel*>();
+            if (!QTest::qWaitFor([model] { return !model->loading(); }))
+                return nullptr;
+            QCoreApplication::processEvents();
+            return pane;
         }
     };
 
@@ -216,7 +246,7 @@ private Q_SLOTS:
         item.shortVersionString = u"3.0"_s;
         f.updates.didFindValidUpdate(item);
         QVERIFY(dotShown());
-        QObject* about = f.pane(5);
+        QObject* about = f.pane(6);
         QVERIFY(isShown(about->findChild<QObject*>(u"updateNudge"_s)));
         f.updates.userDidMakeChoice(UpdateChoice::Skip, item);
         QVERIFY(!dotShown());
@@ -611,15 +641,31 @@ private Q_SLOTS:
         AppcastItem update;
         update.shortVersionString = u"3.0"_s;
         f.updates.didFindValidUpdate(update);
+        f.recordBreaks(3, 1);
         QQuickWindow* window = f.open();
-        const QStringList data = {u"Velto"_s, u"Text Editor"_s, f.paneModel()->websiteDisplayName(),
-                                  f.paneModel()->contactAddress()};
+        QStringList data = {u"Velto"_s, u"Text Editor"_s, f.paneModel()->websiteDisplayName(),
+                            f.paneModel()->contactAddress()};
+        // The weekdays under the chart and the week's marks are the locale's own names.
+        const auto* history = window->property("historyModel").value<HistoryPaneModel*>();
+        for (const QVariantList& days : {history->week(), history->chartEntries()}) {
+            for (const QVariant& day : days)
+                data.append(day.toMap().value(u"label"_s).toString());
+        }
 
-        for (int tab = 0; tab < 6; ++tab) {
-            f.pane(tab);
+        for (int tab = 0; tab < 7; ++tab) {
+            if (tab == 5)
+                QVERIFY(isShown(f.historyPane()->findChild<QObject*>(u"chart"_s)));
+            else
+                f.pane(tab);
             checkLanguage(window, data);
         }
         QVERIFY(window->title().startsWith(u'['));
+
+        QObject* historyPane = f.historyPane();
+        emitSignal(historyPane->findChild<QObject*>(u"clearHistory"_s), "clicked");
+        QTRY_VERIFY(historyPane->findChild<QObject*>(u"clearConfirmation"_s)->property("opened").toBool());
+        checkLanguage(window, data);
+        QVERIFY(QMetaObject::invokeMethod(historyPane->findChild<QObject*>(u"clearConfirmation"_s), "close"));
 
         QObject* smartPausePane = f.pane(2);
         emitSignal(smartPausePane->findChild<QObject*>(u"addApp"_s), "clicked");
@@ -632,15 +678,71 @@ private Q_SLOTS:
         checkLanguage(window, data);
     }
 
+    // From the range buttons the keys go to the chart, from day to day in it, on to the picker and the button;
+    // nothing is cleared before the user confirms, and then the pane shows its empty state.
+    void historyPaneWorksByKeysAndClearsOnlyOnceConfirmed()
+    {
+        Fixture f;
+        f.recordBreaks(5, 1);
+        QQuickWindow* window = f.open();
+        window->requestActivate();
+        QObject* pane = f.historyPane();
+        QVERIFY(pane);
+        auto* model = window->property("historyModel").value<HistoryPaneModel*>();
+        auto focusedName = [window] {
+            QQuickItem* item = window->activeFocusItem();
+            return item ? item->objectName() : QString();
+        };
+        auto spoken = [window] {
+            QAccessibleInterface* focused = QAccessible::queryAccessibleInterface(window->activeFocusItem());
+            return focused ? focused->text(QAccessible::Name) : QString();
+        };
+        auto dayText = [model](qsizetype index) {
+            return model->chartEntries().at(index).toMap().value(u"accessibleText"_s).toString();
+        };
+
+        qobject_cast<QQuickItem*>(named(pane, u"range7"_s).value(0))->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(focusedName(), u"range30"_s);
+        QTest::keyClick(window, Qt::Key_Space);
+        QCOMPARE(model->chartDays(), 30);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(spoken(), dayText(29));
+        QVERIFY(spoken().contains(u"5 taken, 1 skipped"_s));
+        QTest::keyClick(window, Qt::Key_Left);
+        QCOMPARE(spoken(), dayText(28));
+        QTest::keyClick(window, Qt::Key_Home);
+        QCOMPARE(spoken(), dayText(0));
+        QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(focusedName(), u"retention"_s);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(focusedName(), u"clearHistory"_s);
+
+        auto* dialog = pane->findChild<QObject*>(u"clearConfirmation"_s);
+        QTest::keyClick(window, Qt::Key_Space);
+        QTRY_VERIFY(dialog->property("opened").toBool());
+        QCOMPARE(focusedName(), u"cancelClear"_s);
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+        QCOMPARE(f.historyStore.allEvents().size(), 6);
+
+        emitSignal(pane->findChild<QObject*>(u"clearHistory"_s), "clicked");
+        QTRY_VERIFY(dialog->property("opened").toBool());
+        emitSignal(dialog->findChild<QObject*>(u"confirmClear"_s), "clicked");
+        QTRY_VERIFY(isShown(pane->findChild<QObject*>(u"emptyState"_s)));
+        QVERIFY(f.historyStore.allEvents().isEmpty());
+        QVERIFY(!isShown(pane->findChild<QObject*>(u"chart"_s)));
+    }
+
     void aboutPaneChecksQuietlyEachTimeItIsShown()
     {
         Fixture f;
         f.open();
         int silentChecks = 0;
         f.paneModel()->onSilentCheck = [&silentChecks] { ++silentChecks; };
-        f.pane(5);
+        f.pane(6);
         f.pane(0);
-        QObject* about = f.pane(5);
+        QObject* about = f.pane(6);
         QCOMPARE(silentChecks, 2);
         QVERIFY(!isShown(about->findChild<QObject*>(u"updateNudge"_s)));
         QVERIFY(!about->findChild<QObject*>(u"versionText"_s)->property("text").toString().isEmpty());
@@ -651,7 +753,7 @@ private Q_SLOTS:
         Fixture packaged;
         packaged.updates.setUpdatedBySystem(true);
         packaged.open();
-        about = packaged.pane(5);
+        about = packaged.pane(6);
         QVERIFY(!isShown(about->findChild<QObject*>(u"checkForUpdates"_s)));
         QVERIFY(isShown(about->findChild<QObject*>(u"updatedBySystem"_s)));
     }
