@@ -1,6 +1,6 @@
 # `make deb`: a Debian package of what `cmake --install` puts under /usr, made by CPack. Its Depends are the
-# shared libraries the binaries load (dpkg-shlibdeps) and the QML modules the windows load at run time, which
-# no binary links.
+# shared libraries the binaries load (dpkg-shlibdeps), and the QML modules the windows load and the history's SQLite
+# driver, plugins loaded at run time that no binary links.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME velto)
 set(CPACK_PACKAGE_VENDOR "The Velto developers")
@@ -24,7 +24,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/${VELTO_PR
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-layouts, qml6-module-qtquick-templates, \
 qml6-module-qtquick-window, qml6-module-qtquick-shapes, qml6-module-qtqml, qml6-module-qtqml-workerscript, \
-qt6-wayland")
+qt6-wayland, libqt6sql6-sqlite")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 # What Debian asks of every package: the copyright and the changes, compressed reproducibly.
 add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/package/changelog.gz
