@@ -29,6 +29,7 @@ bench: build
 	$(BUILD_DIR)/bench/bench_timer_drift
 	$(BUILD_DIR)/bench/bench_overlay_show
 	$(BUILD_DIR)/bench/bench_notification_show
+	$(BUILD_DIR)/bench/bench_history
 	bench/footprint.sh $(BUILD_DIR)
 	dbus-run-session --config-file=tests/support/test-bus.conf -- $(BUILD_DIR)/bench/bench_wayland_session
 

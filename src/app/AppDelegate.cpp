@@ -492,7 +492,7 @@ bool AppDelegate::openSettings()
         m_settingsWindows = windows->makeSettingsWindows(
             {m_services.screenLock.get(), m_activityDetector->workspace(), m_services.applicationInfo.get(),
              m_updateAvailability, &m_services.userDefaults->writeState(), detectionSources,
-             qEnvironmentVariable("XDG_CURRENT_DESKTOP"), m_services.gnomeExtension.get()});
+             qEnvironmentVariable("XDG_CURRENT_DESKTOP"), m_services.gnomeExtension.get(), m_historyRecorder});
     }
     m_settingsWindows->showSettings(m_settingsManager, m_breakManager);
     return true;

@@ -11,6 +11,7 @@
 #include "SystemSleepSignals.h"
 #include "VeltoWindows.h"
 #include "XdgAutostartEntry.h"
+#include "history/SqliteHistoryStore.h"
 #include "settings/SettingsFileStore.h"
 #include "wayland/GnomeShellToplevels.h"
 #include "windows/LazyWindows.h"
@@ -69,6 +70,7 @@ AppServices AppServices::system()
     services.sleepSignals = std::make_unique<SystemSleepSignals>();
     services.colorScheme = std::make_unique<DesktopColorScheme>(QDBusConnection::sessionBus());
     // Off in distribution packages: the package manager brings new versions.
+    services.historyStore = std::make_unique<SqliteHistoryStore>(SqliteHistoryStore::defaultPath());
     services.runsUpdater = VELTO_UPDATE_CHECKS;
     services.updatedBySystem = !VELTO_UPDATE_CHECKS;
     return services;

@@ -5,9 +5,11 @@
 #include "ControlService.h"
 #include "ControlTarget.h"
 #include "GnomeExtensionCommand.h"
+#include "HistoryCommand.h"
 #include "SystemGnomeExtension.h"
 #include "Translations.h"
 #include "VeltoVersion.h"
+#include "history/SqliteHistoryStore.h"
 #include "wayland/WaylandLink.h"
 
 #include <QApplication>
@@ -64,6 +66,16 @@ int runGnomeExtensionCommand(const velto::CommandLine& commandLine)
     // Gone before this returns, keeping any change it wrote.
     velto::SystemGnomeExtension extension(QDBusConnection::sessionBus());
     return velto::GnomeExtensionCommand(extension).run(commandLine, out, err);
+}
+
+// The history file, read as it is: with or without a running Velto, never changed.
+int runHistoryCommand(const velto::CommandLine& commandLine)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    const velto::SqliteHistoryStore store(velto::SqliteHistoryStore::defaultPath(),
+                                          velto::SqliteHistoryStore::Access::ReadOnly);
+    return velto::HistoryCommand(store, QDate::currentDate()).run(commandLine, out, err);
 }
 
 int runApplication(int argc, char* argv[])
@@ -155,6 +167,8 @@ int main(int argc, char* argv[])
     case Command::GnomeExtensionStatus:
     case Command::GnomeExtensionEnable:
         return runGnomeExtensionCommand(commandLine);
+    case Command::History:
+        return runHistoryCommand(commandLine);
     default:
         return runClient(commandLine);
     }
