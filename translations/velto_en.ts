@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>HistoryPane</name>
+    <message numerus="yes">
+        <source>%n days in a row with every break taken</source>
+        <translation>
+            <numerusform>%n day in a row with every break taken</numerusform>
+            <numerusform>%n days in a row with every break taken</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PauseReason</name>
     <message numerus="yes">
         <source>Paused · resumes in %n min</source>
@@ -39,6 +49,33 @@
         <translation>
             <numerusform>%n breaks today</numerusform>
             <numerusform>%n breaks today</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velto::HistoryPaneModel</name>
+    <message numerus="yes">
+        <source>%n min</source>
+        <extracomment>A duration of the History pane: a number of minutes, abbreviated.</extracomment>
+        <translation>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n taken</source>
+        <extracomment>Breaks taken on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n taken</numerusform>
+            <numerusform>%n taken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <extracomment>Breaks skipped on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n skipped</numerusform>
+            <numerusform>%n skipped</numerusform>
         </translation>
     </message>
 </context>

@@ -759,6 +759,133 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
+    <name>HistoryPane</name>
+    <message>
+        <source>See how your breaks went, day by day.</source>
+        <translation>Mira cómo fueron tus descansos, día a día.</translation>
+    </message>
+    <message>
+        <source>Loading history</source>
+        <translation>Cargando el historial</translation>
+    </message>
+    <message>
+        <source>No history yet</source>
+        <translation>Aún no hay historial</translation>
+    </message>
+    <message>
+        <source>Each break you take or skip will show up here.</source>
+        <translation>Cada descanso que tomes u omitas aparecerá aquí.</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <extracomment>A section title of the History pane: today&apos;s figures.</extracomment>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>Breaks taken</source>
+        <translation>Descansos tomados</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <extracomment>Breaks skipped: under today&apos;s count, and in the legend of the chart.</extracomment>
+        <translation>Omitidos</translation>
+    </message>
+    <message>
+        <source>Longest stretch without a break</source>
+        <extracomment>Today&apos;s longest time of work without a break in between.</extracomment>
+        <translation>Mayor tramo sin descanso</translation>
+    </message>
+    <message>
+        <source>Held by Smart Pause</source>
+        <extracomment>How long Smart Pause held the break timer today.</extracomment>
+        <translation>Retenido por la Pausa inteligente</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A figure of today, spoken: %1 is what it counts, %2 the figure, as in &quot;Breaks taken: 5&quot;.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Breaks per Day</source>
+        <translation>Descansos por día</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Últimos 7 días</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>Últimos 30 días</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <extracomment>The legend of the chart&apos;s breaks taken.</extracomment>
+        <translation>Tomados</translation>
+    </message>
+    <message>
+        <source>Streak</source>
+        <extracomment>A section title: days in a row on which every break was taken.</extracomment>
+        <translation>Racha</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days in a row with every break taken</source>
+        <translation>
+            <numerusform>%n día seguido con todos los descansos tomados</numerusform>
+            <numerusform>%n días seguidos con todos los descansos tomados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No streak yet: take every break of a day to start one.</source>
+        <translation>Aún no hay racha: toma todos los descansos de un día para empezar una.</translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <extracomment>The row of seven marks for the days of this week.</extracomment>
+        <translation>Esta semana</translation>
+    </message>
+    <message>
+        <source>Every break taken</source>
+        <translation>Todos los descansos tomados</translation>
+    </message>
+    <message>
+        <source>A break skipped</source>
+        <translation>Descanso omitido</translation>
+    </message>
+    <message>
+        <source>No breaks</source>
+        <translation>Sin descansos</translation>
+    </message>
+    <message>
+        <source>Keep history for</source>
+        <extracomment>Followed by a picker of how long the break history is kept (&quot;3 months&quot;).</extracomment>
+        <translation>Conservar el historial durante</translation>
+    </message>
+    <message>
+        <source>Older days are removed. The history never leaves this computer.</source>
+        <translation>Los días más antiguos se eliminan. El historial nunca sale de este equipo.</translation>
+    </message>
+    <message>
+        <source>Clear History…</source>
+        <translation>Borrar historial…</translation>
+    </message>
+    <message>
+        <source>Clear the break history?</source>
+        <translation>¿Borrar el historial de descansos?</translation>
+    </message>
+    <message>
+        <source>Every recorded break, pause and Smart Pause hold is removed. This cannot be undone.</source>
+        <translation>Se eliminarán todos los descansos, pausas y retenciones de la Pausa inteligente registrados. No se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Borrar historial</translation>
+    </message>
+</context>
+<context>
     <name>InAppNotificationDismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -962,6 +1089,11 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Update available</source>
         <extracomment>Spoken for the dot beside About when a newer build exists.</extracomment>
         <translation>Actualización disponible</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>A settings category: the record of breaks taken and skipped.</extracomment>
+        <translation>Historial</translation>
     </message>
 </context>
 <context>
@@ -1515,6 +1647,90 @@ de actualizaciones, o no hay GNOME Shell o extensión, o no se ha podido activar
     <message>
         <source>off</source>
         <translation>desactivados</translation>
+    </message>
+</context>
+<context>
+    <name>velto::HistoryPaneModel</name>
+    <message numerus="yes">
+        <source>%n min</source>
+        <extracomment>A duration of the History pane: a number of minutes, abbreviated.</extracomment>
+        <translation>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>A duration of the History pane, such as &quot;1 h 05 min&quot;: %1 is the hours, %2 the minutes (two digits).</extracomment>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <extracomment>How long the break history is kept: an option of the &quot;Keep history for&quot; picker.</extracomment>
+        <translation>1 mes</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3 meses</translation>
+    </message>
+    <message>
+        <source>6 months</source>
+        <translation>6 meses</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1 año</translation>
+    </message>
+    <message>
+        <source>Forever</source>
+        <extracomment>How long the break history is kept: nothing is ever removed.</extracomment>
+        <translation>Siempre</translation>
+    </message>
+    <message>
+        <source>%1: still to come</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: por llegar</translation>
+    </message>
+    <message>
+        <source>%1: a break skipped</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: un descanso omitido</translation>
+    </message>
+    <message>
+        <source>%1: every break taken</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: todos los descansos tomados</translation>
+    </message>
+    <message>
+        <source>%1: no breaks</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: sin descansos</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <extracomment>How a day of the History chart is spoken, as a Qt date format (ddd: weekday, d: day, MMM: month); put them in your language&apos;s order, such as &quot;ddd, MMM d&quot;.</extracomment>
+        <translation>ddd, d MMM</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n taken</source>
+        <extracomment>Breaks taken on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n tomado</numerusform>
+            <numerusform>%n tomados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <extracomment>Breaks skipped on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n omitido</numerusform>
+            <numerusform>%n omitidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <extracomment>Spoken for a bar of the History chart, such as &quot;Mon 3 Nov: 5 taken, 1 skipped&quot;: %1 is the day, %2 the breaks taken, %3 those skipped.</extracomment>
+        <translation>%1: %2, %3</translation>
     </message>
 </context>
 <context>

@@ -759,6 +759,133 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
+    <name>HistoryPane</name>
+    <message>
+        <source>See how your breaks went, day by day.</source>
+        <translation>Voyez comment se sont passées vos pauses, jour après jour.</translation>
+    </message>
+    <message>
+        <source>Loading history</source>
+        <translation>Chargement de l’historique</translation>
+    </message>
+    <message>
+        <source>No history yet</source>
+        <translation>Pas encore d’historique</translation>
+    </message>
+    <message>
+        <source>Each break you take or skip will show up here.</source>
+        <translation>Chaque pause prise ou sautée apparaîtra ici.</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <extracomment>A section title of the History pane: today&apos;s figures.</extracomment>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Breaks taken</source>
+        <translation>Pauses prises</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <extracomment>Breaks skipped: under today&apos;s count, and in the legend of the chart.</extracomment>
+        <translation>Sautées</translation>
+    </message>
+    <message>
+        <source>Longest stretch without a break</source>
+        <extracomment>Today&apos;s longest time of work without a break in between.</extracomment>
+        <translation>Plus longue période sans pause</translation>
+    </message>
+    <message>
+        <source>Held by Smart Pause</source>
+        <extracomment>How long Smart Pause held the break timer today.</extracomment>
+        <translation>Retenu par Smart Pause</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A figure of today, spoken: %1 is what it counts, %2 the figure, as in &quot;Breaks taken: 5&quot;.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Breaks per Day</source>
+        <translation>Pauses par jour</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>7 derniers jours</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>30 derniers jours</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <extracomment>The legend of the chart&apos;s breaks taken.</extracomment>
+        <translation>Prises</translation>
+    </message>
+    <message>
+        <source>Streak</source>
+        <extracomment>A section title: days in a row on which every break was taken.</extracomment>
+        <translation>Série</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days in a row with every break taken</source>
+        <translation>
+            <numerusform>%n&#xa0;jour d’affilée avec toutes les pauses prises</numerusform>
+            <numerusform>%n&#xa0;jours d’affilée avec toutes les pauses prises</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No streak yet: take every break of a day to start one.</source>
+        <translation>Pas encore de série&#xa0;: prenez toutes les pauses d’une journée pour en commencer une.</translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <extracomment>The row of seven marks for the days of this week.</extracomment>
+        <translation>Cette semaine</translation>
+    </message>
+    <message>
+        <source>Every break taken</source>
+        <translation>Toutes les pauses prises</translation>
+    </message>
+    <message>
+        <source>A break skipped</source>
+        <translation>Pause sautée</translation>
+    </message>
+    <message>
+        <source>No breaks</source>
+        <translation>Aucune pause</translation>
+    </message>
+    <message>
+        <source>Keep history for</source>
+        <extracomment>Followed by a picker of how long the break history is kept (&quot;3 months&quot;).</extracomment>
+        <translation>Conserver l’historique pendant</translation>
+    </message>
+    <message>
+        <source>Older days are removed. The history never leaves this computer.</source>
+        <translation>Les jours plus anciens sont supprimés. L’historique ne quitte jamais cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Clear History…</source>
+        <translation>Effacer l’historique…</translation>
+    </message>
+    <message>
+        <source>Clear the break history?</source>
+        <translation>Effacer l’historique des pauses&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Every recorded break, pause and Smart Pause hold is removed. This cannot be undone.</source>
+        <translation>Toutes les pauses, suspensions et retenues de Smart Pause enregistrées sont supprimées. Cette action est irréversible.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Effacer l’historique</translation>
+    </message>
+</context>
+<context>
     <name>InAppNotificationDismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -962,6 +1089,11 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Update available</source>
         <extracomment>Spoken for the dot beside About when a newer build exists.</extracomment>
         <translation>Mise à jour disponible</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>A settings category: the record of breaks taken and skipped.</extracomment>
+        <translation>Historique</translation>
     </message>
 </context>
 <context>
@@ -1515,6 +1647,90 @@ de mises à jour a échoué, sans GNOME Shell ou sans extension, ou si son activ
     <message>
         <source>off</source>
         <translation>désactivés</translation>
+    </message>
+</context>
+<context>
+    <name>velto::HistoryPaneModel</name>
+    <message numerus="yes">
+        <source>%n min</source>
+        <extracomment>A duration of the History pane: a number of minutes, abbreviated.</extracomment>
+        <translation>
+            <numerusform>%n&#xa0;min</numerusform>
+            <numerusform>%n&#xa0;min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>A duration of the History pane, such as &quot;1 h 05 min&quot;: %1 is the hours, %2 the minutes (two digits).</extracomment>
+        <translation>%1&#xa0;h %2&#xa0;min</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <extracomment>How long the break history is kept: an option of the &quot;Keep history for&quot; picker.</extracomment>
+        <translation>1&#xa0;mois</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3&#xa0;mois</translation>
+    </message>
+    <message>
+        <source>6 months</source>
+        <translation>6&#xa0;mois</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1&#xa0;an</translation>
+    </message>
+    <message>
+        <source>Forever</source>
+        <extracomment>How long the break history is kept: nothing is ever removed.</extracomment>
+        <translation>Pour toujours</translation>
+    </message>
+    <message>
+        <source>%1: still to come</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1&#xa0;: à venir</translation>
+    </message>
+    <message>
+        <source>%1: a break skipped</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1&#xa0;: une pause sautée</translation>
+    </message>
+    <message>
+        <source>%1: every break taken</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1&#xa0;: toutes les pauses prises</translation>
+    </message>
+    <message>
+        <source>%1: no breaks</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1&#xa0;: aucune pause</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <extracomment>How a day of the History chart is spoken, as a Qt date format (ddd: weekday, d: day, MMM: month); put them in your language&apos;s order, such as &quot;ddd, MMM d&quot;.</extracomment>
+        <translation>ddd d MMM</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n taken</source>
+        <extracomment>Breaks taken on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n prise</numerusform>
+            <numerusform>%n prises</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <extracomment>Breaks skipped on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n sautée</numerusform>
+            <numerusform>%n sautées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <extracomment>Spoken for a bar of the History chart, such as &quot;Mon 3 Nov: 5 taken, 1 skipped&quot;: %1 is the day, %2 the breaks taken, %3 those skipped.</extracomment>
+        <translation>%1&#xa0;: %2, %3</translation>
     </message>
 </context>
 <context>

@@ -759,6 +759,132 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
+    <name>HistoryPane</name>
+    <message>
+        <source>See how your breaks went, day by day.</source>
+        <translation>休憩の記録を日ごとに確認できます。</translation>
+    </message>
+    <message>
+        <source>Loading history</source>
+        <translation>履歴を読み込み中</translation>
+    </message>
+    <message>
+        <source>No history yet</source>
+        <translation>まだ履歴はありません</translation>
+    </message>
+    <message>
+        <source>Each break you take or skip will show up here.</source>
+        <translation>取った休憩やスキップした休憩がここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <extracomment>A section title of the History pane: today&apos;s figures.</extracomment>
+        <translation>今日</translation>
+    </message>
+    <message>
+        <source>Breaks taken</source>
+        <translation>実施した休憩</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <extracomment>Breaks skipped: under today&apos;s count, and in the legend of the chart.</extracomment>
+        <translation>スキップ</translation>
+    </message>
+    <message>
+        <source>Longest stretch without a break</source>
+        <extracomment>Today&apos;s longest time of work without a break in between.</extracomment>
+        <translation>休憩なしの最長時間</translation>
+    </message>
+    <message>
+        <source>Held by Smart Pause</source>
+        <extracomment>How long Smart Pause held the break timer today.</extracomment>
+        <translation>スマートポーズで保留</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A figure of today, spoken: %1 is what it counts, %2 the figure, as in &quot;Breaks taken: 5&quot;.</extracomment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Breaks per Day</source>
+        <translation>日ごとの休憩</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>過去7日間</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>過去30日間</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <extracomment>The legend of the chart&apos;s breaks taken.</extracomment>
+        <translation>実施</translation>
+    </message>
+    <message>
+        <source>Streak</source>
+        <extracomment>A section title: days in a row on which every break was taken.</extracomment>
+        <translation>連続記録</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days in a row with every break taken</source>
+        <translation>
+            <numerusform>%n日連続ですべての休憩を実施</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No streak yet: take every break of a day to start one.</source>
+        <translation>まだ連続記録はありません。1日の休憩をすべて取ると記録が始まります。</translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <extracomment>The row of seven marks for the days of this week.</extracomment>
+        <translation>今週</translation>
+    </message>
+    <message>
+        <source>Every break taken</source>
+        <translation>すべて実施</translation>
+    </message>
+    <message>
+        <source>A break skipped</source>
+        <translation>スキップあり</translation>
+    </message>
+    <message>
+        <source>No breaks</source>
+        <translation>休憩なし</translation>
+    </message>
+    <message>
+        <source>Keep history for</source>
+        <extracomment>Followed by a picker of how long the break history is kept (&quot;3 months&quot;).</extracomment>
+        <translation>履歴の保存期間</translation>
+    </message>
+    <message>
+        <source>Older days are removed. The history never leaves this computer.</source>
+        <translation>それより古い日は削除されます。履歴がこのコンピューターの外に出ることはありません。</translation>
+    </message>
+    <message>
+        <source>Clear History…</source>
+        <translation>履歴を消去…</translation>
+    </message>
+    <message>
+        <source>Clear the break history?</source>
+        <translation>休憩の履歴を消去しますか？</translation>
+    </message>
+    <message>
+        <source>Every recorded break, pause and Smart Pause hold is removed. This cannot be undone.</source>
+        <translation>記録されたすべての休憩、一時停止、スマートポーズによる保留が削除されます。この操作は取り消せません。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>履歴を消去</translation>
+    </message>
+</context>
+<context>
     <name>InAppNotificationDismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -961,6 +1087,11 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Update available</source>
         <extracomment>Spoken for the dot beside About when a newer build exists.</extracomment>
         <translation>アップデートがあります</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>A settings category: the record of breaks taken and skipped.</extracomment>
+        <translation>履歴</translation>
     </message>
 </context>
 <context>
@@ -1511,6 +1642,87 @@ GNOME Shellや拡張機能がない場合、拡張機能の有効化に失敗し
     <message>
         <source>off</source>
         <translation>オフ</translation>
+    </message>
+</context>
+<context>
+    <name>velto::HistoryPaneModel</name>
+    <message numerus="yes">
+        <source>%n min</source>
+        <extracomment>A duration of the History pane: a number of minutes, abbreviated.</extracomment>
+        <translation>
+            <numerusform>%n分</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>A duration of the History pane, such as &quot;1 h 05 min&quot;: %1 is the hours, %2 the minutes (two digits).</extracomment>
+        <translation>%1時間%2分</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <extracomment>How long the break history is kept: an option of the &quot;Keep history for&quot; picker.</extracomment>
+        <translation>1か月</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3か月</translation>
+    </message>
+    <message>
+        <source>6 months</source>
+        <translation>6か月</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1年</translation>
+    </message>
+    <message>
+        <source>Forever</source>
+        <extracomment>How long the break history is kept: nothing is ever removed.</extracomment>
+        <translation>無期限</translation>
+    </message>
+    <message>
+        <source>%1: still to come</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1：これから</translation>
+    </message>
+    <message>
+        <source>%1: a break skipped</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1：スキップした休憩あり</translation>
+    </message>
+    <message>
+        <source>%1: every break taken</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1：すべての休憩を実施</translation>
+    </message>
+    <message>
+        <source>%1: no breaks</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1：休憩なし</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <extracomment>How a day of the History chart is spoken, as a Qt date format (ddd: weekday, d: day, MMM: month); put them in your language&apos;s order, such as &quot;ddd, MMM d&quot;.</extracomment>
+        <translation>M月d日(ddd)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n taken</source>
+        <extracomment>Breaks taken on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>実施 %n回</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <extracomment>Breaks skipped on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>スキップ %n回</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <extracomment>Spoken for a bar of the History chart, such as &quot;Mon 3 Nov: 5 taken, 1 skipped&quot;: %1 is the day, %2 the breaks taken, %3 those skipped.</extracomment>
+        <translation>%1：%2、%3</translation>
     </message>
 </context>
 <context>

@@ -759,6 +759,132 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
+    <name>HistoryPane</name>
+    <message>
+        <source>See how your breaks went, day by day.</source>
+        <translation>날마다 휴식을 어떻게 했는지 확인하세요.</translation>
+    </message>
+    <message>
+        <source>Loading history</source>
+        <translation>기록을 불러오는 중</translation>
+    </message>
+    <message>
+        <source>No history yet</source>
+        <translation>아직 기록이 없습니다</translation>
+    </message>
+    <message>
+        <source>Each break you take or skip will show up here.</source>
+        <translation>쉬었거나 건너뛴 휴식이 모두 여기에 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <extracomment>A section title of the History pane: today&apos;s figures.</extracomment>
+        <translation>오늘</translation>
+    </message>
+    <message>
+        <source>Breaks taken</source>
+        <translation>완료한 휴식</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <extracomment>Breaks skipped: under today&apos;s count, and in the legend of the chart.</extracomment>
+        <translation>건너뜀</translation>
+    </message>
+    <message>
+        <source>Longest stretch without a break</source>
+        <extracomment>Today&apos;s longest time of work without a break in between.</extracomment>
+        <translation>휴식 없이 가장 오래 일한 시간</translation>
+    </message>
+    <message>
+        <source>Held by Smart Pause</source>
+        <extracomment>How long Smart Pause held the break timer today.</extracomment>
+        <translation>스마트 일시 정지로 보류됨</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A figure of today, spoken: %1 is what it counts, %2 the figure, as in &quot;Breaks taken: 5&quot;.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Breaks per Day</source>
+        <translation>일별 휴식</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>최근 7일</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>최근 30일</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <extracomment>The legend of the chart&apos;s breaks taken.</extracomment>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Streak</source>
+        <extracomment>A section title: days in a row on which every break was taken.</extracomment>
+        <translation>연속 기록</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days in a row with every break taken</source>
+        <translation>
+            <numerusform>%n일 연속 모든 휴식 완료</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No streak yet: take every break of a day to start one.</source>
+        <translation>아직 연속 기록이 없습니다. 하루의 휴식을 모두 하면 시작됩니다.</translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <extracomment>The row of seven marks for the days of this week.</extracomment>
+        <translation>이번 주</translation>
+    </message>
+    <message>
+        <source>Every break taken</source>
+        <translation>모두 완료</translation>
+    </message>
+    <message>
+        <source>A break skipped</source>
+        <translation>건너뜀 있음</translation>
+    </message>
+    <message>
+        <source>No breaks</source>
+        <translation>휴식 없음</translation>
+    </message>
+    <message>
+        <source>Keep history for</source>
+        <extracomment>Followed by a picker of how long the break history is kept (&quot;3 months&quot;).</extracomment>
+        <translation>기록 보관 기간</translation>
+    </message>
+    <message>
+        <source>Older days are removed. The history never leaves this computer.</source>
+        <translation>이보다 오래된 날은 삭제됩니다. 기록은 이 컴퓨터 밖으로 나가지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Clear History…</source>
+        <translation>기록 지우기…</translation>
+    </message>
+    <message>
+        <source>Clear the break history?</source>
+        <translation>휴식 기록을 지울까요?</translation>
+    </message>
+    <message>
+        <source>Every recorded break, pause and Smart Pause hold is removed. This cannot be undone.</source>
+        <translation>기록된 모든 휴식, 일시 정지, 스마트 일시 정지 보류가 삭제됩니다. 이 작업은 되돌릴 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>기록 지우기</translation>
+    </message>
+</context>
+<context>
     <name>InAppNotificationDismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -961,6 +1087,11 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Update available</source>
         <extracomment>Spoken for the dot beside About when a newer build exists.</extracomment>
         <translation>업데이트 있음</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>A settings category: the record of breaks taken and skipped.</extracomment>
+        <translation>기록</translation>
     </message>
 </context>
 <context>
@@ -1511,6 +1642,87 @@ GNOME Shell 또는 확장이 없거나, 확장 활성화에 실패했으면) 1, 
     <message>
         <source>off</source>
         <translation>꺼짐</translation>
+    </message>
+</context>
+<context>
+    <name>velto::HistoryPaneModel</name>
+    <message numerus="yes">
+        <source>%n min</source>
+        <extracomment>A duration of the History pane: a number of minutes, abbreviated.</extracomment>
+        <translation>
+            <numerusform>%n분</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>A duration of the History pane, such as &quot;1 h 05 min&quot;: %1 is the hours, %2 the minutes (two digits).</extracomment>
+        <translation>%1시간 %2분</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <extracomment>How long the break history is kept: an option of the &quot;Keep history for&quot; picker.</extracomment>
+        <translation>1개월</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3개월</translation>
+    </message>
+    <message>
+        <source>6 months</source>
+        <translation>6개월</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1년</translation>
+    </message>
+    <message>
+        <source>Forever</source>
+        <extracomment>How long the break history is kept: nothing is ever removed.</extracomment>
+        <translation>무기한</translation>
+    </message>
+    <message>
+        <source>%1: still to come</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: 아직 오지 않음</translation>
+    </message>
+    <message>
+        <source>%1: a break skipped</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: 건너뛴 휴식 있음</translation>
+    </message>
+    <message>
+        <source>%1: every break taken</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: 모든 휴식 완료</translation>
+    </message>
+    <message>
+        <source>%1: no breaks</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: 휴식 없음</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <extracomment>How a day of the History chart is spoken, as a Qt date format (ddd: weekday, d: day, MMM: month); put them in your language&apos;s order, such as &quot;ddd, MMM d&quot;.</extracomment>
+        <translation>M월 d일 (ddd)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n taken</source>
+        <extracomment>Breaks taken on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>완료 %n회</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <extracomment>Breaks skipped on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>건너뜀 %n회</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <extracomment>Spoken for a bar of the History chart, such as &quot;Mon 3 Nov: 5 taken, 1 skipped&quot;: %1 is the day, %2 the breaks taken, %3 those skipped.</extracomment>
+        <translation>%1: %2, %3</translation>
     </message>
 </context>
 <context>

@@ -759,6 +759,134 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
+    <name>HistoryPane</name>
+    <message>
+        <source>See how your breaks went, day by day.</source>
+        <translation>Zobacz, jak wyglądały Twoje przerwy, dzień po dniu.</translation>
+    </message>
+    <message>
+        <source>Loading history</source>
+        <translation>Wczytywanie historii</translation>
+    </message>
+    <message>
+        <source>No history yet</source>
+        <translation>Brak historii</translation>
+    </message>
+    <message>
+        <source>Each break you take or skip will show up here.</source>
+        <translation>Tutaj pojawi się każda odbyta lub pominięta przerwa.</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <extracomment>A section title of the History pane: today&apos;s figures.</extracomment>
+        <translation>Dzisiaj</translation>
+    </message>
+    <message>
+        <source>Breaks taken</source>
+        <translation>Odbyte przerwy</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <extracomment>Breaks skipped: under today&apos;s count, and in the legend of the chart.</extracomment>
+        <translation>Pominięte</translation>
+    </message>
+    <message>
+        <source>Longest stretch without a break</source>
+        <extracomment>Today&apos;s longest time of work without a break in between.</extracomment>
+        <translation>Najdłużej bez przerwy</translation>
+    </message>
+    <message>
+        <source>Held by Smart Pause</source>
+        <extracomment>How long Smart Pause held the break timer today.</extracomment>
+        <translation>Wstrzymane przez Inteligentną pauzę</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A figure of today, spoken: %1 is what it counts, %2 the figure, as in &quot;Breaks taken: 5&quot;.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Breaks per Day</source>
+        <translation>Przerwy dziennie</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Ostatnie 7 dni</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>Ostatnie 30 dni</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <extracomment>The legend of the chart&apos;s breaks taken.</extracomment>
+        <translation>Odbyte</translation>
+    </message>
+    <message>
+        <source>Streak</source>
+        <extracomment>A section title: days in a row on which every break was taken.</extracomment>
+        <translation>Seria</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days in a row with every break taken</source>
+        <translation>
+            <numerusform>%n dzień z rzędu ze wszystkimi przerwami</numerusform>
+            <numerusform>%n dni z rzędu ze wszystkimi przerwami</numerusform>
+            <numerusform>%n dni z rzędu ze wszystkimi przerwami</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No streak yet: take every break of a day to start one.</source>
+        <translation>Brak serii: odbądź wszystkie przerwy jednego dnia, aby ją zacząć.</translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <extracomment>The row of seven marks for the days of this week.</extracomment>
+        <translation>Ten tydzień</translation>
+    </message>
+    <message>
+        <source>Every break taken</source>
+        <translation>Wszystkie przerwy odbyte</translation>
+    </message>
+    <message>
+        <source>A break skipped</source>
+        <translation>Pominięta przerwa</translation>
+    </message>
+    <message>
+        <source>No breaks</source>
+        <translation>Brak przerw</translation>
+    </message>
+    <message>
+        <source>Keep history for</source>
+        <extracomment>Followed by a picker of how long the break history is kept (&quot;3 months&quot;).</extracomment>
+        <translation>Przechowuj historię przez</translation>
+    </message>
+    <message>
+        <source>Older days are removed. The history never leaves this computer.</source>
+        <translation>Starsze dni są usuwane. Historia nigdy nie opuszcza tego komputera.</translation>
+    </message>
+    <message>
+        <source>Clear History…</source>
+        <translation>Wyczyść historię…</translation>
+    </message>
+    <message>
+        <source>Clear the break history?</source>
+        <translation>Wyczyścić historię przerw?</translation>
+    </message>
+    <message>
+        <source>Every recorded break, pause and Smart Pause hold is removed. This cannot be undone.</source>
+        <translation>Wszystkie zapisane przerwy, wstrzymania i okresy Inteligentnej pauzy zostaną usunięte. Nie można tego cofnąć.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Wyczyść historię</translation>
+    </message>
+</context>
+<context>
     <name>InAppNotificationDismissButton</name>
     <message>
         <source>Dismiss</source>
@@ -963,6 +1091,11 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Update available</source>
         <extracomment>Spoken for the dot beside About when a newer build exists.</extracomment>
         <translation>Dostępna aktualizacja</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>A settings category: the record of breaks taken and skipped.</extracomment>
+        <translation>Historia</translation>
     </message>
 </context>
 <context>
@@ -1519,6 +1652,93 @@ się nie powiodło, nie ma GNOME Shell lub rozszerzenia albo nie udało się go 
     <message>
         <source>off</source>
         <translation>wyłączone</translation>
+    </message>
+</context>
+<context>
+    <name>velto::HistoryPaneModel</name>
+    <message numerus="yes">
+        <source>%n min</source>
+        <extracomment>A duration of the History pane: a number of minutes, abbreviated.</extracomment>
+        <translation>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
+            <numerusform>%n min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>A duration of the History pane, such as &quot;1 h 05 min&quot;: %1 is the hours, %2 the minutes (two digits).</extracomment>
+        <translation>%1 godz. %2 min</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <extracomment>How long the break history is kept: an option of the &quot;Keep history for&quot; picker.</extracomment>
+        <translation>1 miesiąc</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3 miesiące</translation>
+    </message>
+    <message>
+        <source>6 months</source>
+        <translation>6 miesięcy</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1 rok</translation>
+    </message>
+    <message>
+        <source>Forever</source>
+        <extracomment>How long the break history is kept: nothing is ever removed.</extracomment>
+        <translation>Zawsze</translation>
+    </message>
+    <message>
+        <source>%1: still to come</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: jeszcze przed nami</translation>
+    </message>
+    <message>
+        <source>%1: a break skipped</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: pominięto przerwę</translation>
+    </message>
+    <message>
+        <source>%1: every break taken</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: wszystkie przerwy odbyte</translation>
+    </message>
+    <message>
+        <source>%1: no breaks</source>
+        <extracomment>Spoken for a day of this week on the History pane; %1 is the weekday&apos;s name.</extracomment>
+        <translation>%1: brak przerw</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <extracomment>How a day of the History chart is spoken, as a Qt date format (ddd: weekday, d: day, MMM: month); put them in your language&apos;s order, such as &quot;ddd, MMM d&quot;.</extracomment>
+        <translation>ddd, d MMM</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n taken</source>
+        <extracomment>Breaks taken on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n odbyta</numerusform>
+            <numerusform>%n odbyte</numerusform>
+            <numerusform>%n odbytych</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <extracomment>Breaks skipped on a day, spoken for a bar of the History chart.</extracomment>
+        <translation>
+            <numerusform>%n pominięta</numerusform>
+            <numerusform>%n pominięte</numerusform>
+            <numerusform>%n pominiętych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <extracomment>Spoken for a bar of the History chart, such as &quot;Mon 3 Nov: 5 taken, 1 skipped&quot;: %1 is the day, %2 the breaks taken, %3 those skipped.</extracomment>
+        <translation>%1: %2, %3</translation>
     </message>
 </context>
 <context>

@@ -71,7 +71,7 @@ ColumnLayout {
             Repeater {
                 model: [
                     { value: String(pane.today.taken), caption: qsTr("Breaks taken") },
-                    //: Breaks skipped today (a count follows above it).
+                    //: Breaks skipped: under today's count, and in the legend of the chart.
                     { value: String(pane.today.skipped), caption: qsTr("Skipped") },
                     { value: pane.today.longestStretchText,
                       //: Today's longest time of work without a break in between.

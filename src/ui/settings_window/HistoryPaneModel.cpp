@@ -59,10 +59,10 @@ QString historyDurationText(double seconds)
     if (minutes < 60) {
         const int count = int(minutes);
         //: A duration of the History pane: a number of minutes, abbreviated.
-        return QCoreApplication::translate("HistoryPaneModel", "%n min", nullptr, count);
+        return QCoreApplication::translate("velto::HistoryPaneModel", "%n min", nullptr, count);
     }
     //: A duration of the History pane, such as "1 h 05 min": %1 is the hours, %2 the minutes (two digits).
-    return QCoreApplication::translate("HistoryPaneModel", "%1 h %2 min")
+    return QCoreApplication::translate("velto::HistoryPaneModel", "%1 h %2 min")
         .arg(hours)
         .arg(minutesPastHour, 2, 10, QChar(u'0'));
 }
