@@ -1,12 +1,14 @@
-// Renders the six settings panes off screen, light and dark, for the README.
+// Renders the seven settings panes off screen, light and dark, for the README.
 // Usage: velto_screenshots_settings OUTPUT_DIR [DESKTOP WINDOWS TYPING]
 // The optional three show the panes as on that desktop with those window and typing sources.
+#include "InMemoryHistoryStore.h"
 #include "InMemoryUserDefaults.h"
 #include "ScreenshotLanguage.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
 #include "detection/ApplicationInfoProviding.h"
 #include "detection/WorkspaceProviding.h"
+#include "history/HistoryRecorder.h"
 #include "scheduling/ScreenLocking.h"
 #include "settings/SettingsManager.h"
 #include "settings/UserDefaultsStore.h"
@@ -100,6 +102,53 @@ QPalette palette(bool dark)
     return p;
 }
 
+// Six weeks of plausible history up to a Wednesday afternoon: weekdays of 10 to 20 breaks with a few skipped and
+// some Smart Pause holds, weekends off. Made the same way every time, so the pictures change only with the pane.
+void fillHistory(InMemoryHistoryStore& store, const QDateTime& now)
+{
+    quint32 state = 20251105;
+    const auto random = [&state](int below) {
+        state = state * 1103515245U + 12345U;
+        return int((state >> 16) % quint32(below));
+    };
+    const QDate today = now.date();
+    for (QDate day = today.addDays(-40); day <= today; day = day.addDays(1)) {
+        if (day.dayOfWeek() > 5)
+            continue;
+        const qint64 daysAgo = day.daysTo(today);
+        const int taken = daysAgo == 0 ? 8 : 10 + random(11);
+        // This week's days as the week row shows them: a skip on Monday, none since.
+        int skipped = random(3) == 0 ? 0 : 1 + random(3);
+        if (daysAgo < 3)
+            skipped = daysAgo == 2 ? 2 : 0;
+        QDateTime at(day, QTime(9, 0), QTimeZone::utc());
+        int skipsLeft = skipped;
+        for (int i = 0; i < taken + skipped; ++i) {
+            at = at.addSecs(20 * 60 + random(15) * 60);
+            const bool skip = skipsLeft > 0 && (i % 5 == 2 || taken + skipped - i <= skipsLeft);
+            HistoryEvent event;
+            event.at = at;
+            event.breakType = i % 4 == 3 ? BreakType::Long : BreakType::Short;
+            // Skipped on the break screen, or before it came.
+            event.kind =
+                skip && skipsLeft % 2 == 0 ? HistoryEventKind::UpcomingBreakSkipped : HistoryEventKind::BreakEnded;
+            if (event.kind == HistoryEventKind::BreakEnded)
+                event.detail = (skip ? HistoryNames::skipped : HistoryNames::completed).toString();
+            skipsLeft -= skip ? 1 : 0;
+            store.append(event);
+        }
+        if (random(3) == 0 || daysAgo == 0) {
+            HistoryEvent hold;
+            hold.kind = HistoryEventKind::SmartPauseHold;
+            hold.at = QDateTime(day, QTime(11, 0), QTimeZone::utc());
+            hold.detail = u"meeting"_s;
+            hold.seconds = daysAgo == 0 ? 25 * 60 : (20 + random(45)) * 60;
+            store.append(hold);
+        }
+        store.addToDay({day, (daysAgo == 0 ? 4.5 : 6 + random(3)) * 3600, (35 + random(50)) * 60.0});
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -139,13 +188,19 @@ int main(int argc, char** argv)
     item.shortVersionString = u"0.2.0"_s;
     updates.didFindValidUpdate(item);
 
-    const QStringList tabs = {u"general"_s,       u"breaks"_s,     u"smart-pause"_s,
-                              u"notifications"_s, u"appearance"_s, u"about"_s};
+    const QDateTime now(QDate(2025, 11, 5), QTime(16, 30), QTimeZone::utc());
+    InMemoryHistoryStore historyStore;
+    fillHistory(historyStore, now);
+    HistoryRecorder history(historyStore, nullptr, QTimeZone::utc(), [now] { return now; });
+
+    const QStringList tabs = {u"general"_s,    u"breaks"_s,  u"smart-pause"_s, u"notifications"_s,
+                              u"appearance"_s, u"history"_s, u"about"_s};
     int failures = 0;
     for (const bool dark : {false, true}) {
         QGuiApplication::setPalette(palette(dark));
         // A fresh controller per theme, so the palette is read afresh.
         SettingsWindowController::Collaborators collaborators{&lock, &workspace, &applications, &updates};
+        collaborators.history = &history;
         if (argc > 4) {
             const QVariantMap sources{{u"windows"_s, QString::fromLocal8Bit(argv[3])},
                                       {u"typing"_s, QString::fromLocal8Bit(argv[4])}};
@@ -162,6 +217,13 @@ int main(int argc, char** argv)
         for (int tab = 0; tab < tabs.size(); ++tab) {
             window->setProperty("selectedTab", tab);
             QTest::qWait(100);
+            // The history light over the last week, dark over the month; drawn once its read is back.
+            if (tabs.at(tab) == u"history"_s) {
+                auto* historyModel = window->property("historyModel").value<QObject*>();
+                historyModel->setProperty("chartDays", dark ? 30 : 7);
+                QTest::qWaitFor([historyModel] { return !historyModel->property("loading").toBool(); });
+                QTest::qWait(50);
+            }
             // Tall enough for the whole pane, so the picture shows every section.
             const auto* pane = window->property("detailPane").value<QObject*>();
             const int paneHeight = pane ? pane->property("implicitHeight").toInt() : 0;
