@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell konnte die Erweiterung nicht starten; das Protokoll nennt eventuell den Grund</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>unerwartetes Argument „%1“</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>unbekannte Option „%1“</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>unbekannter Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension erwartet „status“ oder „enable“</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>unbekannter gnome-extension-Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>nur eine der Optionen --json und --csv angeben</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days braucht eine Anzahl von Tagen</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days muss eine ganze Zahl von 1 bis %1 sein, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES muss eine ganze Zahl von 1 bis %1 sein, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>unbekannte Option „%1“ für %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>unerwartetes Argument „%1“ für %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Die Pausen der letzten N Tage zeigen (ohne Angabe %1), eine Zeile pro Tag oder jedes Ereignis</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Aufruf: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Ohne Befehl wird Velto gestartet; läuft Velto bereits, werden stattdessen seine Einstellungen geöffnet.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Befehle für das laufende Velto:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Befehle, die mit oder ohne laufendes Velto funktionieren:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Diese Hilfe anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Version anzeigen</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Exit-Status: 0 bei Erfolg, 1 wenn Velto nicht läuft oder nicht antwortet (oder die Update-Suche
+fehlgeschlagen ist, es keine GNOME Shell oder Erweiterung gibt oder das Aktivieren fehlschlug), 2 bei ungültigen Argumenten.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto läuft nicht</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto hat nicht innerhalb von %1 Sekunden geantwortet</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>kein Sitzungsbus, daher ist kein laufendes Velto erreichbar</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>das Einstellungsfenster kann in dieser Sitzung nicht angezeigt werden</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>für diesen Befehl gibt es nichts zu senden</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto läuft bereits; das Einstellungsfenster ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto läuft bereits.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Restzeit:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Pausengrund:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Pausen heute:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Erinnerungen:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Gemacht</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Übersprungen</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Verschoben</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Arbeit</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Längste Zeit</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Smart Pause</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>Keine Ereignisse in diesen Tagen aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Sekunden</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1416,13 +1616,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto läuft nicht</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1517,136 +1710,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Deine Augen brauchen dich</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>unerwartetes Argument „%1“</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>unbekannte Option „%1“</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>unbekannter Befehl „%1“</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension erwartet „status“ oder „enable“</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>unbekannter gnome-extension-Befehl „%1“</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES muss eine ganze Zahl von 1 bis %1 sein, nicht „%2“</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>unbekannte Option „%1“ für %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>unerwartetes Argument „%1“ für %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Aufruf: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Ohne Befehl wird Velto gestartet; läuft Velto bereits, werden stattdessen seine Einstellungen geöffnet.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Befehle für das laufende Velto:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Befehle, die GNOME Shell selbst abfragen, mit oder ohne laufendes Velto:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Optionen:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Diese Hilfe anzeigen</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Version anzeigen</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Exit-Status: 0 bei Erfolg, 1 wenn Velto nicht läuft oder nicht antwortet (oder die Update-Suche
-fehlgeschlagen ist, es keine GNOME Shell oder Erweiterung gibt oder das Aktivieren fehlschlug), 2 bei ungültigen Argumenten.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto hat nicht innerhalb von %1 Sekunden geantwortet</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>kein Sitzungsbus, daher ist kein laufendes Velto erreichbar</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>das Einstellungsfenster kann in dieser Sitzung nicht angezeigt werden</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>für diesen Befehl gibt es nichts zu senden</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto läuft bereits; das Einstellungsfenster ist geöffnet.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto läuft bereits.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Restzeit:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Status:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Pausengrund:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keiner</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Pausen heute:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Erinnerungen:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>an</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>aus</translation>
     </message>
 </context>
 <context>

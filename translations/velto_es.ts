@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell no ha podido iniciar la extensión; puede que su registro indique el motivo</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argumento inesperado «%1»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>opción desconocida «%1»</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>comando desconocido «%1»</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension necesita «status» o «enable»</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>comando de gnome-extension desconocido «%1»</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>indique solo una de las opciones --json y --csv</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days necesita un número de días</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days debe ser un número entero de 1 a %1, no «%2»</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES debe ser un número entero de 1 a %1, no «%2»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>opción desconocida «%1» para %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>argumento inesperado «%1» para %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Mostrar los descansos de los últimos N días (%1 si no se indica), una línea por día o cada evento</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Uso: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Sin comando, inicia Velto; si Velto ya se está ejecutando, abre su configuración.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Comandos para el Velto en ejecución:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Comandos que funcionan con o sin Velto en ejecución:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Mostrar esta ayuda</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Mostrar la versión</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Estado de salida: 0 si todo va bien, 1 si Velto no se está ejecutando o no responde (o ha fallado la búsqueda
+de actualizaciones, o no hay GNOME Shell o extensión, o no se ha podido activar), 2 si los argumentos no son válidos.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto no se está ejecutando</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto no ha respondido en %1 segundos</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>no hay bus de sesión, así que no se puede contactar con ningún Velto en ejecución</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>la ventana de configuración no se puede mostrar en esta sesión</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>no hay nada que enviar para este comando</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto ya se está ejecutando; su ventana de configuración está abierta.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto ya se está ejecutando.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Tiempo restante:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Motivo de la pausa:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Descansos hoy:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Recordatorios:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activados</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>desactivados</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>Día</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Tomados</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Omitidos</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Pospuestos</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Mayor tramo</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Pausa inteligente</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>No hay eventos registrados en estos días.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Descanso</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detalle</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Segundos</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1416,13 +1616,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto no se está ejecutando</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1517,136 +1710,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Tus ojos te necesitan</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>argumento inesperado «%1»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>opción desconocida «%1»</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>comando desconocido «%1»</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension necesita «status» o «enable»</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>comando de gnome-extension desconocido «%1»</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES debe ser un número entero de 1 a %1, no «%2»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>opción desconocida «%1» para %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>argumento inesperado «%1» para %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Uso: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Sin comando, inicia Velto; si Velto ya se está ejecutando, abre su configuración.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Comandos para el Velto en ejecución:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Comandos que consultan al propio GNOME Shell, con o sin Velto en ejecución:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opciones:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Mostrar esta ayuda</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Mostrar la versión</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Estado de salida: 0 si todo va bien, 1 si Velto no se está ejecutando o no responde (o ha fallado la búsqueda
-de actualizaciones, o no hay GNOME Shell o extensión, o no se ha podido activar), 2 si los argumentos no son válidos.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto no ha respondido en %1 segundos</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>no hay bus de sesión, así que no se puede contactar con ningún Velto en ejecución</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>la ventana de configuración no se puede mostrar en esta sesión</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>no hay nada que enviar para este comando</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto ya se está ejecutando; su ventana de configuración está abierta.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto ya se está ejecutando.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Tiempo restante:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Estado:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Motivo de la pausa:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>ninguno</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Descansos hoy:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Recordatorios:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>activados</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>desactivados</translation>
     </message>
 </context>
 <context>

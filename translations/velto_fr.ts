@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell n’a pas pu démarrer l’extension&#x202f;; son journal en indique peut-être la raison</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argument inattendu «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>option inconnue «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>commande inconnue «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension attend «&#x202f;status&#x202f;» ou «&#x202f;enable&#x202f;»</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>commande gnome-extension inconnue «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>indiquer une seule des options --json et --csv</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days attend un nombre de jours</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days doit être un nombre entier de 1 à %1, et non « %2 »</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES doit être un nombre entier de 1 à %1, et non «&#x202f;%2&#x202f;»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>option inconnue «&#x202f;%1&#x202f;» pour %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>argument inattendu «&#x202f;%1&#x202f;» pour %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Afficher les pauses des N derniers jours (%1 par défaut), une ligne par jour ou chaque événement</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Utilisation&#xa0;: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Sans commande, lance Velto&#x202f;; si Velto est déjà lancé, ouvre plutôt ses paramètres.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Commandes pour l’instance de Velto en cours d’exécution&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Commandes qui fonctionnent avec ou sans Velto en cours d’exécution :</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Afficher cette aide</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Afficher la version</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Code de sortie&#xa0;: 0 en cas de succès, 1 si Velto n’est pas lancé ou ne répond pas (ou si la recherche
+de mises à jour a échoué, sans GNOME Shell ou sans extension, ou si son activation a échoué), 2 si les arguments sont invalides.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto n’est pas lancé</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto n’a pas répondu dans les %1&#xa0;secondes</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>pas de bus de session&#xa0;: impossible de joindre une instance de Velto en cours d’exécution</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>la fenêtre des paramètres ne peut pas être affichée dans cette session</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>rien à envoyer pour cette commande</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto est déjà lancé&#x202f;; sa fenêtre de paramètres est ouverte.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto est déjà lancé.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Temps restant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>État&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Motif de la suspension&#xa0;:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Pauses du jour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Rappels&#xa0;:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activés</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>désactivés</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>Jour</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Prises</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Sautées</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Reportées</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Travail</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Plus longue période</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Smart Pause</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>Aucun événement enregistré ces jours-là.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Événement</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Détail</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondes</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1416,13 +1616,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto n’est pas lancé</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1517,136 +1710,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Vos yeux ont besoin de vous</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>argument inattendu «&#x202f;%1&#x202f;»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>option inconnue «&#x202f;%1&#x202f;»</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>commande inconnue «&#x202f;%1&#x202f;»</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension attend «&#x202f;status&#x202f;» ou «&#x202f;enable&#x202f;»</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>commande gnome-extension inconnue «&#x202f;%1&#x202f;»</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES doit être un nombre entier de 1 à %1, et non «&#x202f;%2&#x202f;»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>option inconnue «&#x202f;%1&#x202f;» pour %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>argument inattendu «&#x202f;%1&#x202f;» pour %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Utilisation&#xa0;: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Sans commande, lance Velto&#x202f;; si Velto est déjà lancé, ouvre plutôt ses paramètres.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Commandes pour l’instance de Velto en cours d’exécution&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Commandes qui interrogent GNOME Shell lui-même, avec ou sans instance de Velto en cours d’exécution&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Options&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Afficher cette aide</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Afficher la version</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Code de sortie&#xa0;: 0 en cas de succès, 1 si Velto n’est pas lancé ou ne répond pas (ou si la recherche
-de mises à jour a échoué, sans GNOME Shell ou sans extension, ou si son activation a échoué), 2 si les arguments sont invalides.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto n’a pas répondu dans les %1&#xa0;secondes</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>pas de bus de session&#xa0;: impossible de joindre une instance de Velto en cours d’exécution</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>la fenêtre des paramètres ne peut pas être affichée dans cette session</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>rien à envoyer pour cette commande</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto est déjà lancé&#x202f;; sa fenêtre de paramètres est ouverte.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto est déjà lancé.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Temps restant&#xa0;:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>État&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Motif de la suspension&#xa0;:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>aucun</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Pauses du jour&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Rappels&#xa0;:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>activés</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>désactivés</translation>
     </message>
 </context>
 <context>
@@ -1746,7 +1809,7 @@ de mises à jour a échoué, sans GNOME Shell ou sans extension, ou si son activ
     </message>
     <message>
         <source>Wrap up or park your task. You’re nearly at a longer chance to step away.</source>
-        <translation>Terminez ou mettez de côté votre tâche : une pause plus longue approche.</translation>
+        <translation>Terminez ou mettez de côté votre tâche&#x202f;: une pause plus longue approche.</translation>
     </message>
     <message>
         <source>Save your place and finish the thought you’re on. A quick reset is almost here.</source>

@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell non è riuscito ad avviare l&apos;estensione; il suo registro potrebbe indicarne il motivo</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argomento inatteso «%1»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>opzione sconosciuta «%1»</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>comando sconosciuto «%1»</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension richiede «status» o «enable»</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>comando gnome-extension sconosciuto «%1»</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>indicare solo una tra --json e --csv</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days richiede un numero di giorni</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days deve essere un numero intero da 1 a %1, non «%2»</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES deve essere un numero intero da 1 a %1, non «%2»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>opzione sconosciuta «%1» per %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>argomento inatteso «%1» per %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Mostra le pause degli ultimi N giorni (%1 se non indicato), una riga al giorno o ogni evento</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Uso: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Senza un comando, avvia Velto; se Velto è già in esecuzione, ne apre invece le impostazioni.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Comandi per l&apos;istanza di Velto in esecuzione:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Comandi che funzionano con o senza Velto in esecuzione:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Mostra questo aiuto</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Mostra la versione</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Stato di uscita: 0 in caso di successo, 1 se Velto non è in esecuzione o non risponde (o se il controllo
+degli aggiornamenti non è riuscito, se mancano GNOME Shell o l&apos;estensione, o se la sua attivazione non è riuscita), 2 per argomenti non validi.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto non è in esecuzione</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto non ha risposto entro %1 secondi</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>nessun bus di sessione, quindi non è possibile raggiungere un Velto in esecuzione</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>la finestra delle impostazioni non può essere mostrata in questa sessione</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>niente da inviare per questo comando</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto è già in esecuzione; la finestra delle impostazioni è aperta.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto è già in esecuzione.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Tempo rimanente:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Stato:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Motivo della sospensione:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Pause di oggi:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Promemoria:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>attivati</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>disattivati</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>Giorno</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Fatte</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Saltate</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Rinviate</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Lavoro</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Tratto più lungo</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Smart Pause</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>Nessun evento registrato in questi giorni.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Dettaglio</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondi</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1416,13 +1616,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto non è in esecuzione</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1517,136 +1710,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>I tuoi occhi hanno bisogno di te</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>argomento inatteso «%1»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>opzione sconosciuta «%1»</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>comando sconosciuto «%1»</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension richiede «status» o «enable»</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>comando gnome-extension sconosciuto «%1»</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES deve essere un numero intero da 1 a %1, non «%2»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>opzione sconosciuta «%1» per %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>argomento inatteso «%1» per %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Uso: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Senza un comando, avvia Velto; se Velto è già in esecuzione, ne apre invece le impostazioni.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Comandi per l&apos;istanza di Velto in esecuzione:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Comandi che interrogano direttamente GNOME Shell, con o senza Velto in esecuzione:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opzioni:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Mostra questo aiuto</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Mostra la versione</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Stato di uscita: 0 in caso di successo, 1 se Velto non è in esecuzione o non risponde (o se il controllo
-degli aggiornamenti non è riuscito, se mancano GNOME Shell o l&apos;estensione, o se la sua attivazione non è riuscita), 2 per argomenti non validi.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto non ha risposto entro %1 secondi</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>nessun bus di sessione, quindi non è possibile raggiungere un Velto in esecuzione</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>la finestra delle impostazioni non può essere mostrata in questa sessione</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>niente da inviare per questo comando</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto è già in esecuzione; la finestra delle impostazioni è aperta.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto è già in esecuzione.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Tempo rimanente:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Stato:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Motivo della sospensione:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>nessuno</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Pause di oggi:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Promemoria:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>attivati</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>disattivati</translation>
     </message>
 </context>
 <context>

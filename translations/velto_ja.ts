@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shellが拡張機能を起動できませんでした。原因はGNOME Shellのログで確認できる場合があります</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>予期しない引数「%1」</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>不明なオプション「%1」</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>不明なコマンド「%1」</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extensionには「status」または「enable」を指定してください</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>不明なgnome-extensionコマンド「%1」</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>--json と --csv はどちらか一方だけを指定してください</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days には日数を指定してください</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--daysには1から%1までの整数を指定してください（指定された値：「%2」）</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTESには1から%1までの整数を指定してください（指定された値：「%2」）</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>%2に対する不明なオプション「%1」</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>%2に対する予期しない引数「%1」</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>過去N日間の休憩を表示（省略時は%1日）。1日1行、またはすべてのイベント</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>使い方：velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>コマンドを指定しない場合はVeltoを起動します。Veltoがすでに実行中の場合は、代わりに設定を開きます。</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>実行中のVeltoに対するコマンド：</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Veltoの実行中でも停止中でも使えるコマンド：</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>オプション：</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>このヘルプを表示</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>バージョンを表示</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>終了ステータス：成功時は0、Veltoが実行されていないか応答しない場合（またはアップデートの確認に失敗した場合、
+GNOME Shellや拡張機能がない場合、拡張機能の有効化に失敗した場合）は1、引数が不正な場合は2。</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Veltoは実行されていません</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Veltoが%1秒以内に応答しませんでした</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>セッションバスがないため、実行中のVeltoに接続できません</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>このセッションでは設定ウィンドウを表示できません</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>このコマンドで送信する内容はありません</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Veltoはすでに実行中です。設定ウィンドウを開きました。</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Veltoはすでに実行中です。</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>残り時間：</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>状態：</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>一時停止の理由：</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>今日の休憩：</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>リマインダー：</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>実施</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>スキップ</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>延期</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>作業</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>最長連続</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>スマートポーズ</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>この期間に記録されたイベントはありません。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>イベント</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>休憩</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1411,13 +1611,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Veltoは実行されていません</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1512,136 +1705,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>目が休みを求めています</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>予期しない引数「%1」</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>不明なオプション「%1」</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>不明なコマンド「%1」</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extensionには「status」または「enable」を指定してください</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>不明なgnome-extensionコマンド「%1」</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTESには1から%1までの整数を指定してください（指定された値：「%2」）</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>%2に対する不明なオプション「%1」</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>%2に対する予期しない引数「%1」</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>使い方：velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>コマンドを指定しない場合はVeltoを起動します。Veltoがすでに実行中の場合は、代わりに設定を開きます。</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>実行中のVeltoに対するコマンド：</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>GNOME Shell自体に問い合わせるコマンド（Veltoの実行の有無を問わず）：</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>オプション：</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>このヘルプを表示</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>バージョンを表示</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>終了ステータス：成功時は0、Veltoが実行されていないか応答しない場合（またはアップデートの確認に失敗した場合、
-GNOME Shellや拡張機能がない場合、拡張機能の有効化に失敗した場合）は1、引数が不正な場合は2。</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Veltoが%1秒以内に応答しませんでした</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>セッションバスがないため、実行中のVeltoに接続できません</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>このセッションでは設定ウィンドウを表示できません</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>このコマンドで送信する内容はありません</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Veltoはすでに実行中です。設定ウィンドウを開きました。</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Veltoはすでに実行中です。</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>残り時間：</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>状態：</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>一時停止の理由：</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>なし</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>今日の休憩：</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>リマインダー：</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>オン</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>オフ</translation>
     </message>
 </context>
 <context>

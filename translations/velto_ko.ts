@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell이 확장을 시작하지 못했습니다. 로그에서 원인을 확인할 수 있습니다</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>예상하지 않은 인수 ‘%1’</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>알 수 없는 옵션 ‘%1’</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>알 수 없는 명령 ‘%1’</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension에는 ‘status’ 또는 ‘enable’이 필요합니다</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>알 수 없는 gnome-extension 명령 ‘%1’</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>--json과 --csv 중 하나만 지정하세요</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days에는 일수가 필요합니다</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days는 1에서 %1 사이의 정수여야 합니다(입력값: ‘%2’)</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES는 1에서 %1 사이의 정수여야 합니다(입력값: ‘%2’)</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>%2에 대한 알 수 없는 옵션 ‘%1’</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>%2에 대한 예상하지 않은 인수 ‘%1’</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>최근 N일 동안의 휴식 표시(생략하면 %1일), 하루 한 줄 또는 모든 이벤트</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>사용법: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>명령 없이 실행하면 Velto를 시작하고, Velto가 이미 실행 중이면 설정을 엽니다.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>실행 중인 Velto에 보내는 명령:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Velto 실행 여부와 관계없이 쓸 수 있는 명령:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>옵션:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>이 도움말 표시</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>버전 표시</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>종료 상태: 성공하면 0, Velto가 실행 중이 아니거나 응답하지 않으면(또는 업데이트 확인에 실패했거나,
+GNOME Shell 또는 확장이 없거나, 확장 활성화에 실패했으면) 1, 인수가 잘못되었으면 2.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto가 실행 중이 아닙니다</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto가 %1초 안에 응답하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>세션 버스가 없어 실행 중인 Velto에 연결할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>이 세션에서는 설정 창을 표시할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>이 명령으로 보낼 내용이 없습니다</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto가 이미 실행 중입니다. 설정 창을 열었습니다.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto가 이미 실행 중입니다.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>남은 시간:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>상태:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>일시 정지 사유:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>오늘 휴식:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>알림:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>켜짐</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>날짜</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>건너뜀</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>미룸</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>최장 연속</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>스마트 일시 정지</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>이 기간에 기록된 이벤트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>시각</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>휴식</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>세부 정보</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>초</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1411,13 +1611,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto가 실행 중이 아닙니다</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1512,136 +1705,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>눈이 당신을 필요로 해요</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>예상하지 않은 인수 ‘%1’</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>알 수 없는 옵션 ‘%1’</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>알 수 없는 명령 ‘%1’</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension에는 ‘status’ 또는 ‘enable’이 필요합니다</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>알 수 없는 gnome-extension 명령 ‘%1’</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES는 1에서 %1 사이의 정수여야 합니다(입력값: ‘%2’)</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>%2에 대한 알 수 없는 옵션 ‘%1’</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>%2에 대한 예상하지 않은 인수 ‘%1’</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>사용법: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>명령 없이 실행하면 Velto를 시작하고, Velto가 이미 실행 중이면 설정을 엽니다.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>실행 중인 Velto에 보내는 명령:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Velto 실행 여부와 관계없이 GNOME Shell에 직접 묻는 명령:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>옵션:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>이 도움말 표시</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>버전 표시</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>종료 상태: 성공하면 0, Velto가 실행 중이 아니거나 응답하지 않으면(또는 업데이트 확인에 실패했거나,
-GNOME Shell 또는 확장이 없거나, 확장 활성화에 실패했으면) 1, 인수가 잘못되었으면 2.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto가 %1초 안에 응답하지 않았습니다</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>세션 버스가 없어 실행 중인 Velto에 연결할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>이 세션에서는 설정 창을 표시할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>이 명령으로 보낼 내용이 없습니다</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto가 이미 실행 중입니다. 설정 창을 열었습니다.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto가 이미 실행 중입니다.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>남은 시간:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>상태:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>일시 정지 사유:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>없음</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>오늘 휴식:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>알림:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>켜짐</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>꺼짐</translation>
     </message>
 </context>
 <context>

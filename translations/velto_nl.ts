@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell kon de uitbreiding niet starten; het logboek vermeldt mogelijk waarom</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>onverwacht argument ‘%1’</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>onbekende optie ‘%1’</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>onbekende opdracht ‘%1’</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension verwacht ‘status’ of ‘enable’</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>onbekende gnome-extension-opdracht ‘%1’</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>geef slechts één van --json en --csv op</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days vraagt een aantal dagen</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days moet een geheel getal van 1 tot en met %1 zijn, niet ‘%2’</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES moet een geheel getal van 1 tot en met %1 zijn, niet ‘%2’</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>onbekende optie ‘%1’ voor %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>onverwacht argument ‘%1’ voor %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>De pauzes van de laatste N dagen tonen (%1 indien niet opgegeven), een regel per dag of elke gebeurtenis</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Gebruik: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Zonder opdracht start Velto; als Velto al draait, worden in plaats daarvan de instellingen geopend.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Opdrachten voor de draaiende Velto:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Opdrachten die met of zonder draaiende Velto werken:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opties:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Deze hulp tonen</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>De versie tonen</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Afsluitstatus: 0 bij succes, 1 als Velto niet draait of niet antwoordt (of de updatecontrole
+mislukte, of er geen GNOME Shell of uitbreiding is, of het inschakelen mislukte), 2 bij ongeldige argumenten.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto draait niet</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto antwoordde niet binnen %1 seconden</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>geen sessiebus, dus er is geen draaiende Velto bereikbaar</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>het instellingenvenster kan in deze sessie niet worden getoond</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>niets te versturen voor deze opdracht</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto draait al; het instellingenvenster is geopend.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto draait al.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Resterende tijd:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Pauzereden:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>geen</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Pauzes vandaag:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Herinneringen:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>aan</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>uit</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>Dag</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Genomen</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Overgeslagen</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Uitgesteld</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Werk</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Langste tijd</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Smart Pause</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>Geen gebeurtenissen vastgelegd in deze dagen.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Gebeurtenis</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Pauze</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Seconden</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1416,13 +1616,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto draait niet</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1517,136 +1710,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Je ogen hebben je nodig</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>onverwacht argument ‘%1’</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>onbekende optie ‘%1’</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>onbekende opdracht ‘%1’</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension verwacht ‘status’ of ‘enable’</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>onbekende gnome-extension-opdracht ‘%1’</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES moet een geheel getal van 1 tot en met %1 zijn, niet ‘%2’</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>onbekende optie ‘%1’ voor %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>onverwacht argument ‘%1’ voor %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Gebruik: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Zonder opdracht start Velto; als Velto al draait, worden in plaats daarvan de instellingen geopend.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Opdrachten voor de draaiende Velto:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Opdrachten die GNOME Shell zelf raadplegen, met of zonder draaiende Velto:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opties:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Deze hulp tonen</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>De versie tonen</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Afsluitstatus: 0 bij succes, 1 als Velto niet draait of niet antwoordt (of de updatecontrole
-mislukte, of er geen GNOME Shell of uitbreiding is, of het inschakelen mislukte), 2 bij ongeldige argumenten.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto antwoordde niet binnen %1 seconden</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>geen sessiebus, dus er is geen draaiende Velto bereikbaar</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>het instellingenvenster kan in deze sessie niet worden getoond</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>niets te versturen voor deze opdracht</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto draait al; het instellingenvenster is geopend.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto draait al.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Resterende tijd:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Status:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Pauzereden:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>geen</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Pauzes vandaag:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Herinneringen:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>aan</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>uit</translation>
     </message>
 </context>
 <context>

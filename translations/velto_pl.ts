@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell nie mógł uruchomić rozszerzenia; przyczynę może podawać jego dziennik</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>nieoczekiwany argument „%1”</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>nieznana opcja „%1”</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>nieznane polecenie „%1”</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension wymaga „status” lub „enable”</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>nieznane polecenie gnome-extension „%1”</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>podaj tylko jedną z opcji --json i --csv</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days wymaga liczby dni</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days musi być liczbą całkowitą od 1 do %1, a nie „%2”</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES musi być liczbą całkowitą od 1 do %1, a nie „%2”</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>nieznana opcja „%1” dla %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>nieoczekiwany argument „%1” dla %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Pokaż przerwy z ostatnich N dni (domyślnie %1), wiersz na dzień lub każde zdarzenie</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Użycie: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Bez polecenia uruchamia Velto; jeśli Velto już działa, otwiera jego ustawienia.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Polecenia dla działającego Velto:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Polecenia działające z uruchomionym Velto lub bez niego:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opcje:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Pokaż tę pomoc</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Pokaż wersję</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Kod wyjścia: 0 w razie powodzenia; 1, gdy Velto nie działa lub nie odpowiada (albo sprawdzanie aktualizacji
+się nie powiodło, nie ma GNOME Shell lub rozszerzenia albo nie udało się go włączyć); 2 przy błędnych argumentach.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto nie działa</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Brak odpowiedzi od Velto w ciągu %1 s</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>brak magistrali sesji, więc nie można połączyć się z działającym Velto</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>w tej sesji nie można wyświetlić okna ustawień</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>brak danych do wysłania dla tego polecenia</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto już działa; okno ustawień jest otwarte.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto już działa.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Pozostały czas:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Stan:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Powód wstrzymania:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>brak</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Przerwy dzisiaj:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Przypomnienia:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>włączone</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>wyłączone</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>Dzień</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Odbyte</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Pominięte</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Odłożone</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Praca</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Najdłużej</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Inteligentna pauza</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>Brak zdarzeń zapisanych w tych dniach.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Zdarzenie</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Przerwa</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Szczegóły</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Sekundy</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1421,13 +1621,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto nie działa</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1522,136 +1715,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Twoje oczy Cię potrzebują</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>nieoczekiwany argument „%1”</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>nieznana opcja „%1”</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>nieznane polecenie „%1”</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension wymaga „status” lub „enable”</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>nieznane polecenie gnome-extension „%1”</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES musi być liczbą całkowitą od 1 do %1, a nie „%2”</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>nieznana opcja „%1” dla %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>nieoczekiwany argument „%1” dla %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Użycie: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Bez polecenia uruchamia Velto; jeśli Velto już działa, otwiera jego ustawienia.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Polecenia dla działającego Velto:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Polecenia kierowane bezpośrednio do GNOME Shell, z działającym Velto lub bez niego:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opcje:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Pokaż tę pomoc</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Pokaż wersję</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Kod wyjścia: 0 w razie powodzenia; 1, gdy Velto nie działa lub nie odpowiada (albo sprawdzanie aktualizacji
-się nie powiodło, nie ma GNOME Shell lub rozszerzenia albo nie udało się go włączyć); 2 przy błędnych argumentach.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Brak odpowiedzi od Velto w ciągu %1 s</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>brak magistrali sesji, więc nie można połączyć się z działającym Velto</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>w tej sesji nie można wyświetlić okna ustawień</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>brak danych do wysłania dla tego polecenia</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto już działa; okno ustawień jest otwarte.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto już działa.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Pozostały czas:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Stan:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Powód wstrzymania:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>brak</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Przerwy dzisiaj:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Przypomnienia:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>włączone</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>wyłączone</translation>
     </message>
 </context>
 <context>

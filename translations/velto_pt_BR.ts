@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>o GNOME Shell não conseguiu iniciar a extensão; o registro dele pode dizer o motivo</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argumento inesperado “%1”</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>opção desconhecida “%1”</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>comando desconhecido “%1”</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension precisa de “status” ou “enable”</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>comando desconhecido de gnome-extension “%1”</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>informe apenas uma das opções --json e --csv</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days precisa de um número de dias</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days deve ser um número inteiro de 1 a %1, não “%2”</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES deve ser um número inteiro de 1 a %1, não “%2”</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>opção desconhecida “%1” para %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>argumento inesperado “%1” para %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Mostrar os descansos dos últimos N dias (%1 se não informado), uma linha por dia ou cada evento</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Uso: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Sem um comando, inicia o Velto; se o Velto já estiver em execução, abre as configurações dele.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Comandos para o Velto em execução:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Comandos que funcionam com ou sem o Velto em execução:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Mostrar esta ajuda</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Mostrar a versão</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Código de saída: 0 em caso de sucesso, 1 quando o Velto não está em execução ou não responde (ou a verificação
+de atualizações falhou, ou não há GNOME Shell ou extensão, ou a ativação falhou), 2 para argumentos inválidos.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>O Velto não está em execução</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>O Velto não respondeu em %1 segundos</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>sem barramento de sessão, não é possível contatar nenhum Velto em execução</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>a janela de configurações não pode ser exibida nesta sessão</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>nada a enviar para este comando</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>O Velto já está em execução; a janela de configurações dele está aberta.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>O Velto já está em execução.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Tempo restante:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Motivo da pausa:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhum</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Descansos hoje:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Lembretes:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ativados</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>desativados</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>Dia</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Feitos</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Pulados</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Adiados</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Trabalho</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Maior período</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Pausa Inteligente</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>Nenhum evento registrado nestes dias.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Descanso</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detalhe</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Segundos</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1416,13 +1616,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>O Velto não está em execução</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1517,136 +1710,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Seus olhos precisam de você</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>argumento inesperado “%1”</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>opção desconhecida “%1”</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>comando desconhecido “%1”</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension precisa de “status” ou “enable”</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>comando desconhecido de gnome-extension “%1”</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES deve ser um número inteiro de 1 a %1, não “%2”</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>opção desconhecida “%1” para %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>argumento inesperado “%1” para %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Uso: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Sem um comando, inicia o Velto; se o Velto já estiver em execução, abre as configurações dele.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Comandos para o Velto em execução:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Comandos que consultam o próprio GNOME Shell, com ou sem o Velto em execução:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opções:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Mostrar esta ajuda</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Mostrar a versão</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Código de saída: 0 em caso de sucesso, 1 quando o Velto não está em execução ou não responde (ou a verificação
-de atualizações falhou, ou não há GNOME Shell ou extensão, ou a ativação falhou), 2 para argumentos inválidos.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>O Velto não respondeu em %1 segundos</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>sem barramento de sessão, não é possível contatar nenhum Velto em execução</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>a janela de configurações não pode ser exibida nesta sessão</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>nada a enviar para este comando</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>O Velto já está em execução; a janela de configurações dele está aberta.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>O Velto já está em execução.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Tempo restante:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Estado:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Motivo da pausa:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>nenhum</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Descansos hoje:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Lembretes:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>ativados</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>desativados</translation>
     </message>
 </context>
 <context>

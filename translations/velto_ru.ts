@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell не смог запустить расширение; причина может быть указана в его журнале</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>неожиданный аргумент «%1»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>неизвестный параметр «%1»</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>неизвестная команда «%1»</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>для gnome-extension нужна команда «status» или «enable»</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>неизвестная команда gnome-extension «%1»</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>укажите только одно из --json и --csv</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>для --days нужно число дней</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days должно быть целым числом от 1 до %1, а не «%2»</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES должно быть целым числом от 1 до %1, а не «%2»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>неизвестный параметр «%1» для %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>неожиданный аргумент «%1» для %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Показать перерывы за последние N дней (по умолчанию %1), по строке на день или каждое событие</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Использование: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Без команды запускает Velto; если Velto уже запущен, открывает его настройки.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Команды для запущенного Velto:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Команды, которые работают и без запущенного Velto:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Показать эту справку</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Показать версию</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Код возврата: 0 при успехе, 1, если Velto не запущен или не отвечает (либо не удалась проверка
+обновлений, либо нет GNOME Shell или расширения, либо его не удалось включить), 2 при неверных аргументах.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto не запущен</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto не ответил в течение %1 с</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>нет сеансовой шины, поэтому связаться с запущенным Velto невозможно</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>в этом сеансе невозможно показать окно настроек</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>для этой команды нечего отправлять</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto уже запущен; окно его настроек открыто.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto уже запущен.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Осталось:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Состояние:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Причина паузы:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Перерывов сегодня:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Напоминания:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>включены</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выключены</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>День</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Сделано</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Пропущено</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Отложено</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Работа</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Дольше всего</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Умная пауза</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>За эти дни событий не записано.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Событие</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Перерыв</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Подробности</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Секунды</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1421,13 +1621,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto не запущен</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1522,136 +1715,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Глазам нужна ваша забота</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>неожиданный аргумент «%1»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>неизвестный параметр «%1»</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>неизвестная команда «%1»</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>для gnome-extension нужна команда «status» или «enable»</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>неизвестная команда gnome-extension «%1»</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES должно быть целым числом от 1 до %1, а не «%2»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>неизвестный параметр «%1» для %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>неожиданный аргумент «%1» для %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Использование: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Без команды запускает Velto; если Velto уже запущен, открывает его настройки.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Команды для запущенного Velto:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Команды, которые обращаются к самому GNOME Shell, с запущенным Velto или без него:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Параметры:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Показать эту справку</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Показать версию</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Код возврата: 0 при успехе, 1, если Velto не запущен или не отвечает (либо не удалась проверка
-обновлений, либо нет GNOME Shell или расширения, либо его не удалось включить), 2 при неверных аргументах.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto не ответил в течение %1 с</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>нет сеансовой шины, поэтому связаться с запущенным Velto невозможно</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>в этом сеансе невозможно показать окно настроек</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>для этой команды нечего отправлять</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto уже запущен; окно его настроек открыто.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto уже запущен.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Осталось:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Состояние:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Причина паузы:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>нет</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Перерывов сегодня:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Напоминания:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>включены</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>выключены</translation>
     </message>
 </context>
 <context>

@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell не зміг запустити розширення; причину може бути вказано в його журналі</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>неочікуваний аргумент «%1»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>невідомий параметр «%1»</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>невідома команда «%1»</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>для gnome-extension потрібна команда «status» або «enable»</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>невідома команда gnome-extension «%1»</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>вкажіть лише одне з --json і --csv</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>для --days потрібна кількість днів</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days має бути цілим числом від 1 до %1, а не «%2»</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES має бути цілим числом від 1 до %1, а не «%2»</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>невідомий параметр «%1» для %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>неочікуваний аргумент «%1» для %2</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>Показати перерви за останні N днів (типово %1), рядок на день або кожну подію</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>Використання: velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>Без команди запускає Velto; якщо Velto вже запущено, відкриває його налаштування.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>Команди для запущеного Velto:</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>Команди, що працюють і без запущеного Velto:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметри:</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>Показати цю довідку</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Показати версію</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>Код завершення: 0 у разі успіху, 1, якщо Velto не запущено або він не відповідає (чи не вдалася перевірка
+оновлень, чи немає GNOME Shell або розширення, чи не вдалося його увімкнути), 2 у разі неправильних аргументів.</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto не запущено</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto не відповів протягом %1 с</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>немає сеансової шини, тож зв’язатися із запущеним Velto неможливо</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>у цьому сеансі неможливо показати вікно налаштувань</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>для цієї команди нічого надсилати</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto вже запущено; його вікно налаштувань відкрито.</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto вже запущено.</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Залишилося:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Стан:</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>Причина паузи:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>немає</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>Перерв сьогодні:</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>Нагадування:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>увімкнено</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>вимкнено</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>День</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Зроблено</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Пропущено</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>Відкладено</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Робота</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>Найдовше</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>Розумна пауза</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>За ці дні подій не записано.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>Час</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Подія</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>Перерва</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Подробиці</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Секунди</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1421,13 +1621,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto не запущено</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1522,136 +1715,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>Очам потрібна ваша турбота</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>неочікуваний аргумент «%1»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>невідомий параметр «%1»</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>невідома команда «%1»</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>для gnome-extension потрібна команда «status» або «enable»</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>невідома команда gnome-extension «%1»</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES має бути цілим числом від 1 до %1, а не «%2»</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>невідомий параметр «%1» для %2</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>неочікуваний аргумент «%1» для %2</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>Використання: velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>Без команди запускає Velto; якщо Velto вже запущено, відкриває його налаштування.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>Команди для запущеного Velto:</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>Команди, що звертаються безпосередньо до GNOME Shell, із запущеним Velto чи без нього:</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Параметри:</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>Показати цю довідку</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>Показати версію</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>Код завершення: 0 у разі успіху, 1, якщо Velto не запущено або він не відповідає (чи не вдалася перевірка
-оновлень, чи немає GNOME Shell або розширення, чи не вдалося його увімкнути), 2 у разі неправильних аргументів.</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto не відповів протягом %1 с</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>немає сеансової шини, тож зв’язатися із запущеним Velto неможливо</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>у цьому сеансі неможливо показати вікно налаштувань</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>для цієї команди нічого надсилати</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto вже запущено; його вікно налаштувань відкрито.</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto вже запущено.</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>Залишилося:</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Стан:</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>Причина паузи:</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>немає</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>Перерв сьогодні:</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>Нагадування:</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>увімкнено</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>вимкнено</translation>
     </message>
 </context>
 <context>

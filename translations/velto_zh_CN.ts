@@ -523,6 +523,206 @@
         <source>GNOME Shell could not start the extension; its log may say why</source>
         <translation>GNOME Shell 无法启动该扩展；其日志中可能记录了原因</translation>
     </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>意外的参数“%1”</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>未知选项“%1”</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>未知命令“%1”</translation>
+    </message>
+    <message>
+        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
+        <translation>gnome-extension 需要“status”或“enable”</translation>
+    </message>
+    <message>
+        <source>unknown gnome-extension command &apos;%1&apos;</source>
+        <translation>未知的 gnome-extension 命令“%1”</translation>
+    </message>
+    <message>
+        <source>give only one of --json and --csv</source>
+        <translation>--json 和 --csv 只能指定一个</translation>
+    </message>
+    <message>
+        <source>--days needs a number of days</source>
+        <translation>--days 需要天数</translation>
+    </message>
+    <message>
+        <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
+        <translation>--days 必须是 1 到 %1 之间的整数，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
+        <translation>MINUTES 必须是 1 到 %1 之间的整数，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; for %2</source>
+        <translation>%2 的未知选项“%1”</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos; for %2</source>
+        <translation>%2 的意外参数“%1”</translation>
+    </message>
+    <message>
+        <source>Show the breaks of the last N days (%1 if not given), a line a day or every event</source>
+        <translation>显示最近 N 天的休息（未指定时为 %1 天），每天一行或每个事件</translation>
+    </message>
+    <message>
+        <source>Usage: velto [COMMAND]</source>
+        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
+        <translation>用法：velto [COMMAND]</translation>
+    </message>
+    <message>
+        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
+        <translation>不带命令时启动 Velto；如果 Velto 已在运行，则改为打开其设置。</translation>
+    </message>
+    <message>
+        <source>Commands for the running Velto:</source>
+        <translation>用于正在运行的 Velto 的命令：</translation>
+    </message>
+    <message>
+        <source>Commands that work with or without a running Velto:</source>
+        <translation>无论 Velto 是否在运行都可用的命令：</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <translation>显示此帮助</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>显示版本</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
+failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
+        <translation>退出状态：成功时为 0；Velto 未运行或无响应（或更新检查失败、没有 GNOME Shell 或扩展、
+启用扩展失败）时为 1；参数错误时为 2。</translation>
+    </message>
+    <message>
+        <source>Velto is not running</source>
+        <translation>Velto 未在运行</translation>
+    </message>
+    <message>
+        <source>Velto did not answer within %1 seconds</source>
+        <extracomment>%1: a number of seconds</extracomment>
+        <translation>Velto 未在 %1 秒内响应</translation>
+    </message>
+    <message>
+        <source>no session bus, so no running Velto can be reached</source>
+        <translation>没有会话总线，因此无法连接到正在运行的 Velto</translation>
+    </message>
+    <message>
+        <source>the settings window cannot be shown in this session</source>
+        <translation>无法在此会话中显示设置窗口</translation>
+    </message>
+    <message>
+        <source>nothing to send for this command</source>
+        <translation>此命令没有要发送的内容</translation>
+    </message>
+    <message>
+        <source>Velto is already running; its settings window is open.</source>
+        <translation>Velto 已在运行；已打开其设置窗口。</translation>
+    </message>
+    <message>
+        <source>Velto is already running.</source>
+        <translation>Velto 已在运行。</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>剩余时间：</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>状态：</translation>
+    </message>
+    <message>
+        <source>Pause reason:</source>
+        <translation>暂停原因：</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Breaks today:</source>
+        <translation>今日休息：</translation>
+    </message>
+    <message>
+        <source>Reminders:</source>
+        <translation>提醒：</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted, the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).</extracomment>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>已跳过</translation>
+    </message>
+    <message>
+        <source>Postponed</source>
+        <translation>已推迟</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>工作</translation>
+    </message>
+    <message>
+        <source>Longest stretch</source>
+        <translation>最长连续</translation>
+    </message>
+    <message>
+        <source>Smart Pause</source>
+        <translation>智能暂停</translation>
+    </message>
+    <message>
+        <source>No events recorded in these days.</source>
+        <extracomment>`velto history --events` when nothing was recorded in the days asked for.</extracomment>
+        <translation>这些天没有记录任何事件。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>Column titles of `velto history --events`: local time, what happened, short or long break, more about it, and a length in seconds. The values under them stay in English, for scripts.</extracomment>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>休息</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒</translation>
+    </message>
 </context>
 <context>
     <name>DesktopEntry</name>
@@ -1411,13 +1611,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
-    <name>velto</name>
-    <message>
-        <source>Velto is not running</source>
-        <translation>Velto 未在运行</translation>
-    </message>
-</context>
-<context>
     <name>velto::ActivityDetector</name>
     <message>
         <source>In %1</source>
@@ -1512,136 +1705,6 @@ When a focus app being added holds breaks: while it runs.</extracomment>
         <source>Your eyes need you</source>
         <extracomment>The small caption above the countdown of a short break, shown in capitals.</extracomment>
         <translation>你的眼睛需要你</translation>
-    </message>
-</context>
-<context>
-    <name>velto::CommandLine</name>
-    <message>
-        <source>unexpected argument &apos;%1&apos;</source>
-        <translation>意外的参数“%1”</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos;</source>
-        <translation>未知选项“%1”</translation>
-    </message>
-    <message>
-        <source>unknown command &apos;%1&apos;</source>
-        <translation>未知命令“%1”</translation>
-    </message>
-    <message>
-        <source>gnome-extension needs &apos;status&apos; or &apos;enable&apos;</source>
-        <translation>gnome-extension 需要“status”或“enable”</translation>
-    </message>
-    <message>
-        <source>unknown gnome-extension command &apos;%1&apos;</source>
-        <translation>未知的 gnome-extension 命令“%1”</translation>
-    </message>
-    <message>
-        <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
-        <translation>MINUTES 必须是 1 到 %1 之间的整数，而不是“%2”</translation>
-    </message>
-    <message>
-        <source>unknown option &apos;%1&apos; for %2</source>
-        <translation>%2 的未知选项“%1”</translation>
-    </message>
-    <message>
-        <source>unexpected argument &apos;%1&apos; for %2</source>
-        <translation>%2 的意外参数“%1”</translation>
-    </message>
-    <message>
-        <source>Usage: velto [COMMAND]</source>
-        <extracomment>COMMAND stays as it is: it stands for one of the commands listed below</extracomment>
-        <translation>用法：velto [COMMAND]</translation>
-    </message>
-    <message>
-        <source>Without a command, starts Velto; if Velto is already running, opens its settings instead.</source>
-        <translation>不带命令时启动 Velto；如果 Velto 已在运行，则改为打开其设置。</translation>
-    </message>
-    <message>
-        <source>Commands for the running Velto:</source>
-        <translation>用于正在运行的 Velto 的命令：</translation>
-    </message>
-    <message>
-        <source>Commands that ask GNOME Shell itself, with or without a running Velto:</source>
-        <translation>直接询问 GNOME Shell 的命令（无论 Velto 是否在运行）：</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>选项：</translation>
-    </message>
-    <message>
-        <source>Show this help</source>
-        <translation>显示此帮助</translation>
-    </message>
-    <message>
-        <source>Show the version</source>
-        <translation>显示版本</translation>
-    </message>
-    <message>
-        <source>Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check
-failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.</source>
-        <translation>退出状态：成功时为 0；Velto 未运行或无响应（或更新检查失败、没有 GNOME Shell 或扩展、
-启用扩展失败）时为 1；参数错误时为 2。</translation>
-    </message>
-</context>
-<context>
-    <name>velto::ControlClient</name>
-    <message>
-        <source>Velto did not answer within %1 seconds</source>
-        <extracomment>%1: a number of seconds</extracomment>
-        <translation>Velto 未在 %1 秒内响应</translation>
-    </message>
-    <message>
-        <source>no session bus, so no running Velto can be reached</source>
-        <translation>没有会话总线，因此无法连接到正在运行的 Velto</translation>
-    </message>
-    <message>
-        <source>the settings window cannot be shown in this session</source>
-        <translation>无法在此会话中显示设置窗口</translation>
-    </message>
-    <message>
-        <source>nothing to send for this command</source>
-        <translation>此命令没有要发送的内容</translation>
-    </message>
-    <message>
-        <source>Velto is already running; its settings window is open.</source>
-        <translation>Velto 已在运行；已打开其设置窗口。</translation>
-    </message>
-    <message>
-        <source>Velto is already running.</source>
-        <translation>Velto 已在运行。</translation>
-    </message>
-    <message>
-        <source>Time left:</source>
-        <translation>剩余时间：</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>状态：</translation>
-    </message>
-    <message>
-        <source>Pause reason:</source>
-        <translation>暂停原因：</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>Breaks today:</source>
-        <translation>今日休息：</translation>
-    </message>
-    <message>
-        <source>Reminders:</source>
-        <translation>提醒：</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>开</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>关</translation>
     </message>
 </context>
 <context>

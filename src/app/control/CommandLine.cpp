@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "CommandLineTexts.h"
+
 #include <QCoreApplication>
 #include <QHash>
 
@@ -9,12 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 namespace {
-
-// What the command line tells people, in their language.
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
 
 using Command = CommandLine::Command;
 
@@ -117,14 +113,14 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     QStringList rest = arguments.mid(index + 1);
     if (word == u"--version"_s || word == u"-v"_s) {
         if (!rest.isEmpty())
-            return invalid(tr("unexpected argument '%1'").arg(rest.first()));
+            return invalid(CommandLineTexts::tr("unexpected argument '%1'").arg(rest.first()));
         return withCommand(Command::Version);
     }
     const auto found = commandWords().constFind(word);
     if (found == commandWords().constEnd()) {
         if (word.startsWith(u'-'))
-            return invalid(tr("unknown option '%1'").arg(word));
-        return invalid(tr("unknown command '%1'").arg(word));
+            return invalid(CommandLineTexts::tr("unknown option '%1'").arg(word));
+        return invalid(CommandLineTexts::tr("unknown command '%1'").arg(word));
     }
 
     CommandLine result = withCommand(found.value());
@@ -135,8 +131,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         if (action == u"enable"_s)
             result.command = Command::GnomeExtensionEnable;
         else if (action != u"status"_s)
-            return invalid(action.isEmpty() ? tr("gnome-extension needs 'status' or 'enable'")
-                                            : tr("unknown gnome-extension command '%1'").arg(action));
+            return invalid(action.isEmpty() ? CommandLineTexts::tr("gnome-extension needs 'status' or 'enable'")
+                                            : CommandLineTexts::tr("unknown gnome-extension command '%1'").arg(action));
         name += u' ' + action;
         rest.removeFirst();
     }
@@ -151,20 +147,21 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         } else if (history && argument == u"--csv"_s && !result.json && !result.csv) {
             result.csv = true;
         } else if (history && (argument == u"--json"_s || argument == u"--csv"_s)) {
-            return invalid(tr("give only one of --json and --csv"));
+            return invalid(CommandLineTexts::tr("give only one of --json and --csv"));
         } else if (history && argument == u"--events"_s && !result.historyEvents) {
             result.historyEvents = true;
         } else if (history && !daysGiven && (argument == u"--days"_s || argument.startsWith(u"--days="_s))) {
             const bool joined = argument.startsWith(u"--days="_s);
             if (!joined && i + 1 >= rest.size())
-                return invalid(tr("--days needs a number of days"));
+                return invalid(CommandLineTexts::tr("--days needs a number of days"));
             const QString value = joined ? argument.mid(7) : rest.at(++i);
             bool ok = false;
             const int days = value.toInt(&ok);
             if (!ok || days < 1 || days > maximumHistoryDays)
                 //: %1: the largest number allowed; %2: what was given instead.
-                return invalid(
-                    tr("--days must be a whole number from 1 to %1, not '%2'").arg(maximumHistoryDays).arg(value));
+                return invalid(CommandLineTexts::tr("--days must be a whole number from 1 to %1, not '%2'")
+                                   .arg(maximumHistoryDays)
+                                   .arg(value));
             result.historyDays = days;
             daysGiven = true;
         } else if (result.command == Command::TakeBreak && argument == u"--long"_s && !result.longBreak) {
@@ -173,13 +170,14 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             bool ok = false;
             const int minutes = argument.toInt(&ok);
             if (!ok || minutes < 1 || minutes > maximumPauseMinutes)
-                return invalid(
-                    tr("MINUTES must be a whole number from 1 to %1, not '%2'").arg(maximumPauseMinutes).arg(argument));
+                return invalid(CommandLineTexts::tr("MINUTES must be a whole number from 1 to %1, not '%2'")
+                                   .arg(maximumPauseMinutes)
+                                   .arg(argument));
             result.pauseMinutes = minutes;
         } else if (argument.startsWith(u'-')) {
-            return invalid(tr("unknown option '%1' for %2").arg(argument, name));
+            return invalid(CommandLineTexts::tr("unknown option '%1' for %2").arg(argument, name));
         } else {
-            return invalid(tr("unexpected argument '%1' for %2").arg(argument, name));
+            return invalid(CommandLineTexts::tr("unexpected argument '%1' for %2").arg(argument, name));
         }
     }
     return result;
@@ -239,7 +237,7 @@ const QList<CommandLine::Spec>& CommandLine::commands()
 
 QString CommandLine::summaryText(const Spec& spec)
 {
-    const QString text = tr(spec.summary);
+    const QString text = CommandLineTexts::tr(spec.summary);
     if (!text.contains(u"%1"_s))
         return text;
     return text.arg(spec.command == Command::History ? defaultHistoryDays : defaultPauseMinutes);
@@ -270,14 +268,17 @@ QString CommandLine::usage()
         (commandLine.talksToRunningInstance() ? forRunning : alone) += line(synopsis(spec), summaryText(spec));
     }
     //: COMMAND stays as it is: it stands for one of the commands listed below
-    QString text = tr("Usage: velto [COMMAND]") + u"\n\n"_s +
-                   tr("Without a command, starts Velto; if Velto is already running, opens its settings instead.") +
-                   u"\n\n"_s + tr("Commands for the running Velto:") + u'\n' + forRunning + u'\n' +
-                   tr("Commands that work with or without a running Velto:") + u'\n' + alone;
-    text += u'\n' + tr("Options:") + u'\n' + line(u"-h, --help"_s, tr("Show this help")) +
-            line(u"-v, --version"_s, tr("Show the version")) + u'\n' +
-            tr("Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
-               "failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.") +
+    QString text = CommandLineTexts::tr("Usage: velto [COMMAND]") + u"\n\n"_s +
+                   CommandLineTexts::tr(
+                       "Without a command, starts Velto; if Velto is already running, opens its settings instead.") +
+                   u"\n\n"_s + CommandLineTexts::tr("Commands for the running Velto:") + u'\n' + forRunning + u'\n' +
+                   CommandLineTexts::tr("Commands that work with or without a running Velto:") + u'\n' + alone;
+    text += u'\n' + CommandLineTexts::tr("Options:") + u'\n' +
+            line(u"-h, --help"_s, CommandLineTexts::tr("Show this help")) +
+            line(u"-v, --version"_s, CommandLineTexts::tr("Show the version")) + u'\n' +
+            CommandLineTexts::tr(
+                "Exit status: 0 on success, 1 when Velto is not running or does not answer (or the update check\n"
+                "failed, or there is no GNOME Shell or extension, or enabling it failed), 2 for bad arguments.") +
             u'\n';
     return text;
 }

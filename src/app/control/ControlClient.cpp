@@ -1,6 +1,7 @@
 #include "ControlClient.h"
 
 #include "CommandLine.h"
+#include "CommandLineTexts.h"
 #include "ControlTarget.h"
 
 #include <QCoreApplication>
@@ -17,15 +18,9 @@ namespace {
 
 using Command = CommandLine::Command;
 
-// The command line's texts for people; what --json prints never changes with the language.
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
-
 QString notRunningText()
 {
-    return u"velto: "_s + tr("Velto is not running");
+    return u"velto: "_s + CommandLineTexts::tr("Velto is not running");
 }
 
 } // namespace
@@ -66,7 +61,8 @@ int ControlClient::reportFailure(const QDBusMessage& reply, QTextStream& err)
     case QDBusError::TimedOut:
         if (isInstanceRunning())
             //: %1: a number of seconds
-            err << u"velto: "_s << tr("Velto did not answer within %1 seconds").arg(m_timeoutMs / 1000.0) << '\n';
+            err << u"velto: "_s
+                << CommandLineTexts::tr("Velto did not answer within %1 seconds").arg(m_timeoutMs / 1000.0) << '\n';
         else
             err << notRunningText() << '\n';
         break;
@@ -84,7 +80,7 @@ int ControlClient::reportFailure(const QDBusMessage& reply, QTextStream& err)
 int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextStream& err)
 {
     if (!m_bus.isConnected()) {
-        err << u"velto: "_s << tr("no session bus, so no running Velto can be reached") << '\n';
+        err << u"velto: "_s << CommandLineTexts::tr("no session bus, so no running Velto can be reached") << '\n';
         err.flush();
         return ExitCode::failure;
     }
@@ -118,7 +114,7 @@ int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextSt
     case Command::Settings:
         reply = call(u"openSettings"_s);
         if (reply.type() == QDBusMessage::ReplyMessage && !QDBusReply<bool>(reply).value()) {
-            err << u"velto: "_s << tr("the settings window cannot be shown in this session") << '\n';
+            err << u"velto: "_s << CommandLineTexts::tr("the settings window cannot be shown in this session") << '\n';
             err.flush();
             return ExitCode::failure;
         }
@@ -138,7 +134,7 @@ int ControlClient::run(const CommandLine& commandLine, QTextStream& out, QTextSt
             return ExitCode::success;
         break;
     default:
-        err << u"velto: "_s << tr("nothing to send for this command") << '\n';
+        err << u"velto: "_s << CommandLineTexts::tr("nothing to send for this command") << '\n';
         err.flush();
         return ExitCode::usage;
     }
@@ -154,9 +150,9 @@ int ControlClient::handOver(QTextStream& out, QTextStream& err)
     if (reply.type() != QDBusMessage::ReplyMessage)
         return reportFailure(reply, err);
     if (QDBusReply<bool>(reply).value())
-        out << tr("Velto is already running; its settings window is open.") << '\n';
+        out << CommandLineTexts::tr("Velto is already running; its settings window is open.") << '\n';
     else
-        out << tr("Velto is already running.") << '\n';
+        out << CommandLineTexts::tr("Velto is already running.") << '\n';
     out.flush();
     return ExitCode::success;
 }
@@ -165,11 +161,12 @@ QString ControlClient::statusText(const ControlStatus& status)
 {
     // The state and the pause reason are Velto's own words for scripts, the same in every language.
     const QList<std::pair<QString, QString>> rows{
-        {tr("Time left:"), status.timeText},
-        {tr("State:"), status.state},
-        {tr("Pause reason:"), status.pauseReason.isEmpty() ? tr("none") : status.pauseReason},
-        {tr("Breaks today:"), QString::number(status.breaksToday)},
-        {tr("Reminders:"), status.enabled ? tr("on") : tr("off")},
+        {CommandLineTexts::tr("Time left:"), status.timeText},
+        {CommandLineTexts::tr("State:"), status.state},
+        {CommandLineTexts::tr("Pause reason:"),
+         status.pauseReason.isEmpty() ? CommandLineTexts::tr("none") : status.pauseReason},
+        {CommandLineTexts::tr("Breaks today:"), QString::number(status.breaksToday)},
+        {CommandLineTexts::tr("Reminders:"), status.enabled ? CommandLineTexts::tr("on") : CommandLineTexts::tr("off")},
     };
     qsizetype width = 0;
     for (const auto& [label, value] : rows)

@@ -1,6 +1,7 @@
 #include "GnomeExtensionCommand.h"
 
 #include "CommandLine.h"
+#include "CommandLineTexts.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -68,14 +69,14 @@ int GnomeExtensionCommand::run(const CommandLine& commandLine, QTextStream& out,
 
     std::optional<GnomeExtensionFacts> facts = gather();
     if (!facts)
-        return fail(QCoreApplication::translate("CommandLine", "GNOME Shell did not answer in time"));
+        return fail(CommandLineTexts::tr("GNOME Shell did not answer in time"));
     State state = gnomeExtensionState(*facts);
     if (state == State::NotGnome) {
         if (commandLine.json) {
             out << statusJson(state, false);
             out.flush();
         }
-        return fail(QCoreApplication::translate("CommandLine", "there is no GNOME Shell in this session"));
+        return fail(CommandLineTexts::tr("there is no GNOME Shell in this session"));
     }
 
     if (commandLine.command == CommandLine::Command::GnomeExtensionEnable) {
@@ -85,11 +86,9 @@ int GnomeExtensionCommand::run(const CommandLine& commandLine, QTextStream& out,
         if (state == State::NotEnabled) {
             const std::optional<QString> error = enable();
             if (!error)
-                return fail(QCoreApplication::translate("CommandLine", "GNOME Shell did not answer in time"));
+                return fail(CommandLineTexts::tr("GNOME Shell did not answer in time"));
             if (!error->isEmpty())
-                return fail(
-                    QCoreApplication::translate("CommandLine", "the GNOME Shell extension could not be enabled: ") +
-                    *error);
+                return fail(CommandLineTexts::tr("the GNOME Shell extension could not be enabled: ") + *error);
             facts = m_extension.facts();
             state = facts ? gnomeExtensionState(*facts) : State::NotGnome;
         }
@@ -101,7 +100,7 @@ int GnomeExtensionCommand::run(const CommandLine& commandLine, QTextStream& out,
     } else {
         out << gnomeExtensionStateText(state) << '\n';
         if (enableable)
-            out << QCoreApplication::translate("CommandLine", "Enable it with: velto gnome-extension enable") << '\n';
+            out << CommandLineTexts::tr("Enable it with: velto gnome-extension enable") << '\n';
     }
     out.flush();
 
@@ -112,7 +111,7 @@ int GnomeExtensionCommand::run(const CommandLine& commandLine, QTextStream& out,
     case State::NotEnabled:
         // Asked to enable, yet still off: the settings did not take.
         return commandLine.command == CommandLine::Command::GnomeExtensionEnable
-                   ? fail(QCoreApplication::translate("CommandLine", "GNOME Shell still has the extension off"))
+                   ? fail(CommandLineTexts::tr("GNOME Shell still has the extension off"))
                    : ExitCode::success;
     case State::Failed:
         return commandLine.command == CommandLine::Command::GnomeExtensionEnable

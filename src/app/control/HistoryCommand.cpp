@@ -1,6 +1,7 @@
 #include "HistoryCommand.h"
 
 #include "CommandLine.h"
+#include "CommandLineTexts.h"
 #include "history/HistoryStoring.h"
 #include "history/HistorySummary.h"
 
@@ -17,11 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace velto {
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
 
 // Whole milliseconds at most, without trailing zeros: 300, 12.5.
 double rounded(double seconds)
@@ -204,7 +200,9 @@ QString HistoryCommand::daysText(const QList<DaySummary>& days)
     const QStringList header{
         //: Column titles of `velto history`: the day, breaks taken, skipped and postponed, the work time counted,
         //: the longest work without a break and the time Smart Pause held breaks (the last three as hours:minutes).
-        tr("Day"), tr("Taken"), tr("Skipped"), tr("Postponed"), tr("Work"), tr("Longest stretch"), tr("Smart Pause")};
+        CommandLineTexts::tr("Day"),        CommandLineTexts::tr("Taken"), CommandLineTexts::tr("Skipped"),
+        CommandLineTexts::tr("Postponed"),  CommandLineTexts::tr("Work"),  CommandLineTexts::tr("Longest stretch"),
+        CommandLineTexts::tr("Smart Pause")};
     QList<QStringList> rows;
     const QLocale locale;
     for (const DaySummary& day : days) {
@@ -219,7 +217,7 @@ QString HistoryCommand::eventsText(const QList<HistoryEvent>& events)
 {
     if (events.isEmpty())
         //: `velto history --events` when nothing was recorded in the days asked for.
-        return tr("No events recorded in these days.") + u'\n';
+        return CommandLineTexts::tr("No events recorded in these days.") + u'\n';
     QList<QStringList> rows;
     for (const HistoryEvent& event : events) {
         rows.append({event.localTime().toString(u"yyyy-MM-dd HH:mm:ss"_s), rawName(event.kind),
@@ -227,8 +225,9 @@ QString HistoryCommand::eventsText(const QList<HistoryEvent>& events)
     }
     //: Column titles of `velto history --events`: local time, what happened, short or long break, more about it,
     //: and a length in seconds. The values under them stay in English, for scripts.
-    return table({tr("Time"), tr("Event"), tr("Break"), tr("Detail"), tr("Seconds")}, rows,
-                 {false, false, false, false, true});
+    return table({CommandLineTexts::tr("Time"), CommandLineTexts::tr("Event"), CommandLineTexts::tr("Break"),
+                  CommandLineTexts::tr("Detail"), CommandLineTexts::tr("Seconds")},
+                 rows, {false, false, false, false, true});
 }
 
 } // namespace velto
