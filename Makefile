@@ -30,6 +30,7 @@ bench: build
 	$(BUILD_DIR)/bench/bench_overlay_show
 	$(BUILD_DIR)/bench/bench_notification_show
 	$(BUILD_DIR)/bench/bench_history
+	$(BUILD_DIR)/bench/bench_history_pane
 	bench/footprint.sh $(BUILD_DIR)
 	dbus-run-session --config-file=tests/support/test-bus.conf -- $(BUILD_DIR)/bench/bench_wayland_session
 

@@ -2,6 +2,7 @@
 // then times `velto history --days 365 --csv` as a user runs it (a new process each time, the file read from the
 // page cache) and the reads the History pane makes when it opens.
 // Usage: bench_history [DAYS, default 365]
+#include "HistorySample.h"
 #include "history/HistorySummary.h"
 #include "history/SqliteHistoryStore.h"
 
@@ -20,53 +21,6 @@ using namespace velto;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// A very long working day, 7:00 to 21:00, with breaks every 20 minutes, some skipped or postponed, Smart Pause holds
-// for meetings and short spells away, a few pauses: about 140 events.
-int writeDay(SqliteHistoryStore& store, QDate date, QRandomGenerator& random)
-{
-    const int offset = 3600;
-    QDateTime moment(date, QTime(7, 0), QTimeZone(offset));
-    int written = 0;
-    auto add = [&](HistoryEventKind kind, std::optional<BreakType> type, QString detail, double seconds) {
-        store.append({kind, moment.toUTC(), offset, type, std::move(detail), seconds});
-        ++written;
-    };
-    double stretch = 0;
-    double work = 0;
-    double longest = 0;
-    while (moment.time() < QTime(21, 0)) {
-        moment = moment.addSecs(20 * 60);
-        work += 1200;
-        stretch += 1200;
-        longest = std::max(longest, stretch);
-        const quint32 roll = random.bounded(100);
-        if (roll < 8) {
-            add(HistoryEventKind::UpcomingBreakSkipped, BreakType::Short, {}, 45);
-            continue;
-        }
-        if (roll < 16) {
-            add(HistoryEventKind::UpcomingBreakPostponed, BreakType::Short, {}, 180);
-            add(HistoryEventKind::Paused, std::nullopt, u"timed"_s, 180);
-            moment = moment.addSecs(180);
-        }
-        if (roll < 30) {
-            add(HistoryEventKind::SmartPauseHold, std::nullopt, roll < 22 ? u"meeting"_s : u"idle"_s, 900);
-            moment = moment.addSecs(900);
-        }
-        add(HistoryEventKind::BreakStarted, BreakType::Short, roll < 90 ? u"scheduled"_s : u"menu"_s, 20);
-        moment = moment.addSecs(20);
-        const bool skipped = roll >= 95;
-        add(HistoryEventKind::BreakEnded, BreakType::Short, skipped ? u"skipped"_s : u"completed"_s, skipped ? 6 : 20);
-        if (!skipped)
-            stretch = 0;
-        if (roll < 70)
-            add(HistoryEventKind::SmartPauseHold, std::nullopt, u"idle"_s, 75);
-        add(HistoryEventKind::Paused, std::nullopt, u"manual"_s, 60);
-    }
-    store.addToDay({date, work, longest});
-    return written;
-}
 
 double median(QList<double> values)
 {
@@ -91,7 +45,7 @@ int main(int argc, char* argv[])
         SqliteHistoryStore store(path);
         QRandomGenerator random(20261125);
         for (int day = days - 1; day >= 0; --day)
-            events += writeDay(store, today.addDays(-day), random);
+            events += writeSampleDay(store, today.addDays(-day), random);
         (void)store.days(today, today); // waits for the writes
     }
     std::printf("wrote %d events over %d days in %.0f ms; file %.1f MB\n", events, days, double(timer.elapsed()),
