@@ -3,12 +3,12 @@
 // compiled and created) and again after another pane. The settings window is already open, as it is when a user
 // clicks the sidebar. Run on the offscreen platform; usage: bench_history_pane [DAYS, default 365]
 #include "HistorySample.h"
+#include "InMemoryUserDefaults.h"
 #include "SettingsWindowController.h"
 #include "UpdateAvailabilityModel.h"
 #include "history/HistoryRecorder.h"
 #include "history/SqliteHistoryStore.h"
 #include "settings/SettingsManager.h"
-#include "settings/UserDefaultsStore.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -21,16 +21,6 @@
 using namespace velto;
 
 namespace {
-
-class MemoryDefaults final : public UserDefaultsStore {
-public:
-    [[nodiscard]] QVariant read(const QString& key) const override { return m_values.value(key); }
-    void write(const QString& key, const QVariant& value) override { m_values.insert(key, value); }
-    void remove(const QString& key) override { m_values.remove(key); }
-
-private:
-    QVariantMap m_values;
-};
 
 // Milliseconds from choosing the pane to the first frame after its figures are in.
 double openHistory(QQuickWindow* window, int tab)
@@ -69,7 +59,7 @@ int main(int argc, char* argv[])
         events += writeSampleDay(store, today.addDays(-day), random);
     (void)store.days(today, today); // waits for the writes
 
-    MemoryDefaults defaults;
+    InMemoryUserDefaults defaults;
     SettingsManager settings(defaults, nullptr);
     HistoryRecorder recorder(store, &defaults);
     UpdateAvailabilityModel updates;

@@ -86,6 +86,8 @@ public:
     [[nodiscard]] QList<HistoryDay> days(QDate first, QDate last);
 
 private:
+    // Runs a read, saying once per kind of failure that it failed.
+    bool runRead(QSqlQuery& query);
     enum class Outcome { Ready, Damaged, Failed };
 
     Outcome setUp();
@@ -364,6 +366,16 @@ void SqliteHistoryStore::Worker::drain()
     }
 }
 
+bool SqliteHistoryStore::Worker::runRead(QSqlQuery& query)
+{
+    if (query.exec())
+        return true;
+    const QSqlError error = query.lastError();
+    reportOnce(u"read %1"_s.arg(resultCode(error)),
+               u"Cannot read the break history %1 (%2)"_s.arg(m_path, error.text()));
+    return false;
+}
+
 QList<HistoryEvent> SqliteHistoryStore::Worker::events(const QDateTime& from, const QDateTime& to)
 {
     QList<HistoryEvent> found;
@@ -372,12 +384,8 @@ QList<HistoryEvent> SqliteHistoryStore::Worker::events(const QDateTime& from, co
     QSqlQuery& query = *m_selectEvents;
     query.bindValue(0, from.toMSecsSinceEpoch());
     query.bindValue(1, to.toMSecsSinceEpoch());
-    if (!query.exec()) {
-        const QSqlError error = query.lastError();
-        reportOnce(u"read %1"_s.arg(resultCode(error)),
-                   u"Cannot read the break history %1 (%2)"_s.arg(m_path, error.text()));
+    if (!runRead(query))
         return found;
-    }
     while (query.next()) {
         const auto kind = m_kinds.constFind(query.value(2).toString());
         // A kind only a newer Velto knows.
@@ -406,12 +414,8 @@ QList<HistoryDay> SqliteHistoryStore::Worker::days(QDate first, QDate last)
     QSqlQuery& query = *m_selectDays;
     query.bindValue(0, first.toString(Qt::ISODate));
     query.bindValue(1, last.toString(Qt::ISODate));
-    if (!query.exec()) {
-        const QSqlError error = query.lastError();
-        reportOnce(u"read %1"_s.arg(resultCode(error)),
-                   u"Cannot read the break history %1 (%2)"_s.arg(m_path, error.text()));
+    if (!runRead(query))
         return found;
-    }
     while (query.next()) {
         found.append({QDate::fromString(query.value(0).toString(), Qt::ISODate), query.value(1).toDouble(),
                       query.value(2).toDouble()});
