@@ -6,6 +6,7 @@
 #include "ControlTarget.h"
 #include "GnomeExtensionCommand.h"
 #include "HistoryCommand.h"
+#include "QuitOnSignals.h"
 #include "SystemGnomeExtension.h"
 #include "Translations.h"
 #include "VeltoVersion.h"
@@ -16,6 +17,7 @@
 #include <QIcon>
 #include <QTextStream>
 
+#include <csignal>
 #include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
@@ -126,6 +128,8 @@ int runApplication(int argc, char* argv[])
             QCoreApplication::translate("StartUp", "no display found; running without a tray icon"));
 
     velto::AppDelegate delegate(velto::AppServices::system());
+    // Logging out stops Velto with a signal; it ends as after "Quit Velto", its history written.
+    const velto::QuitOnSignals quitOnSignals({SIGTERM, SIGINT, SIGHUP});
     control.setTarget(&delegate);
     delegate.applicationDidFinishLaunching();
     const int status = QApplication::exec();

@@ -3,6 +3,7 @@
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusReply>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -167,6 +168,25 @@ private Q_SLOTS:
         const Result history = velto({u"history"_s, u"--days"_s, u"1"_s}, environment);
         QVERIFY2(history.out.contains(inGerman("CommandLine", "Longest stretch")), qPrintable(history.out));
         quitAndWait(instance);
+    }
+
+    // Logging out stops Velto with SIGTERM: it ends as after "Quit Velto", the work it counted written down.
+    void aStopSignalEndsItCleanly()
+    {
+        QProcessEnvironment environment = this->environment();
+        environment.insert(u"XDG_DATA_HOME"_s, m_home.filePath(u"stopped"_s));
+        QProcess* instance = startInstance(environment);
+        QTRY_VERIFY_WITH_TIMEOUT(isOwned(), 15000);
+        QTest::qWait(3500);
+        instance->terminate();
+        QVERIFY(instance->waitForFinished(10000));
+        QCOMPARE(instance->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(instance->exitCode(), 0);
+
+        const Result history = velto({u"history"_s, u"--days"_s, u"1"_s, u"--json"_s}, environment);
+        const QJsonObject today =
+            QJsonDocument::fromJson(history.out.toUtf8()).object().value(u"days"_s).toArray().at(0).toObject();
+        QVERIFY2(today.value(u"work_seconds"_s).toDouble() >= 2, qPrintable(history.out));
     }
 
     void ofSeveralStartingAtOnceExactlyOneRuns()

@@ -133,6 +133,8 @@ void HistoryRecorder::watchScheduler(BreakManager* scheduler)
     connect(scheduler, &BreakManager::pauseReasonChanged, this, &HistoryRecorder::pauseReasonChanged);
     connect(scheduler, &BreakManager::asleepChanged, this, [this](bool asleep) {
         if (asleep) {
+            // A machine that goes to sleep may not wake again (a battery runs out): what it counted is written now.
+            flush();
             openInterval(m_sleep, HistoryEventKind::Paused, HistoryNames::sleep.toString());
             return;
         }
