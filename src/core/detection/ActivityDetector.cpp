@@ -239,20 +239,7 @@ bool ActivityDetector::isActivityDetected() const
 
 QString ActivityDetector::activityKind() const
 {
-    // The same order as the status line's.
-    if (m_isInMeeting)
-        return u"meeting"_s;
-    if (m_isWatchingVideo)
-        return u"video"_s;
-    if (m_isScreenRecording)
-        return u"screenRecording"_s;
-    if (m_isInFullscreenGame)
-        return u"fullscreenGame"_s;
-    if (m_isInDeepFocusApp)
-        return u"focusApp"_s;
-    if (m_isIdle)
-        return u"idle"_s;
-    return {};
+    return status(false).kind;
 }
 
 QString ActivityDetector::activityStatusText() const
@@ -271,32 +258,32 @@ ActivityDetector::Status ActivityDetector::status(bool withText) const
         if (m_meetingPauseAppBundleIdentifier) {
             if (const auto name = KnownApplications::meetingAppName(*m_meetingPauseAppBundleIdentifier))
                 //: Why breaks wait: the user is in a call; %1 is the meeting application's name, such as Zoom.
-                return {tr("In %1").arg(*name), u"person.wave.2"_s};
-            return {tr("Meeting app active"), u"person.wave.2"_s};
+                return {tr("In %1").arg(*name), u"person.wave.2"_s, u"meeting"_s};
+            return {tr("Meeting app active"), u"person.wave.2"_s, u"meeting"_s};
         }
         if (m_meetingPauseCamera && m_meetingPauseMicrophone)
-            return {tr("Camera and microphone in use"), u"video.fill"_s};
+            return {tr("Camera and microphone in use"), u"video.fill"_s, u"meeting"_s};
         if (m_meetingPauseCamera)
-            return {tr("Camera in use"), u"camera.fill"_s};
+            return {tr("Camera in use"), u"camera.fill"_s, u"meeting"_s};
         if (m_meetingPauseMicrophone)
-            return {tr("Microphone in use"), u"mic.fill"_s};
-        return {tr("Meeting activity detected"), u"person.wave.2"_s};
+            return {tr("Microphone in use"), u"mic.fill"_s, u"meeting"_s};
+        return {tr("Meeting activity detected"), u"person.wave.2"_s, u"meeting"_s};
     }
     if (m_isWatchingVideo)
-        return {tr("Watching video"), u"play.rectangle"_s};
+        return {tr("Watching video"), u"play.rectangle"_s, u"video"_s};
     if (m_isScreenRecording)
-        return {tr("Recording screen"), u"record.circle"_s};
+        return {tr("Recording screen"), u"record.circle"_s, u"screenRecording"_s};
     if (m_isInFullscreenGame)
-        return {tr("Playing a game"), u"gamecontroller"_s};
+        return {tr("Playing a game"), u"gamecontroller"_s, u"fullscreenGame"_s};
     if (m_isInDeepFocusApp)
         // Worked out afresh on each read, from the applications running now.
         return {withText ? DetectionRules::deepFocusStatusText(m_providers.workspace->runningApplications(),
                                                                m_settings.deepFocusApps)
                          : QString(),
-                u"scope"_s};
+                u"scope"_s, u"focusApp"_s};
     if (m_isIdle)
         //: No keyboard or pointer input for a while.
-        return {tr("Away from desk"), u"moon"_s};
+        return {tr("Away from desk"), u"moon"_s, u"idle"_s};
     if (!m_lastActivityDetectedAt)
         //: Smart Pause is the feature's name: breaks wait while a meeting, video, game or focus app is on.
         return {tr("Smart Pause active"), u"pause.circle"_s};

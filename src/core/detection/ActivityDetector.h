@@ -118,6 +118,7 @@ private:
     struct Status {
         QString text;
         QString symbolName;
+        QString kind; // the history's raw name; empty for the cool-down and for nothing
     };
 
     // The first row of the status table that holds. The focus text asks the workspace, so only when wanted.
