@@ -6,6 +6,7 @@
 #include "ControlTarget.h"
 #include "GnomeExtensionCommand.h"
 #include "HistoryCommand.h"
+#include "MemoryPolicy.h"
 #include "QuitOnSignals.h"
 #include "SystemGnomeExtension.h"
 #include "Translations.h"
@@ -82,6 +83,7 @@ int runHistoryCommand(const velto::CommandLine& commandLine)
 
 int runApplication(int argc, char* argv[])
 {
+    velto::useOneHeapForAllThreads();
     const bool headless = choosePlatform();
     // Qt then gives a window marked to bypass the window manager no shell role of its own, so the break screen
     // and the card can take a layer of the compositor's instead (where it offers layers; ordinary windows

@@ -137,7 +137,7 @@ QQmlEngine& InAppNotificationWindowPresenter::engine()
 {
     if (!m_engine) {
         BreakWindow::useSoftwareRendering();
-        m_engine = std::make_unique<QQmlEngine>();
+        m_engine = makeWindowEngine();
         m_engine->addImageProvider(u"veltonotificationicon"_s, new AppIconProvider);
     }
     return *m_engine;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FreedMemory.h"
 #include "notification/NotificationWindowPresenting.h"
 
 #include <QObject>
@@ -93,7 +94,7 @@ private:
     [[nodiscard]] bool reduceMotion() const;
     [[nodiscard]] bool naturalScrolling() const;
 
-    std::unique_ptr<QQmlEngine> m_engine;
+    WindowEngine m_engine;
     QPointer<QQuickWindow> m_panel;
     std::function<bool()> m_reduceMotion;
     std::function<bool()> m_naturalScrolling;

@@ -102,7 +102,7 @@ QQmlEngine& BreakWindow::engine()
 {
     if (!m_engine) {
         useSoftwareRendering();
-        m_engine = std::make_unique<QQmlEngine>();
+        m_engine = makeWindowEngine();
         m_images = new BackgroundImageProvider;
         m_engine->addImageProvider(u"veltobackground"_s, m_images);
     }

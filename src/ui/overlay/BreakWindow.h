@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BreakViewModel.h"
+#include "FreedMemory.h"
 #include "VeltoWindows.h"
 #include "settings/SettingsEnums.h"
 
@@ -76,7 +77,7 @@ private:
     QPointer<BreakManager> m_breakManager;
     SoundPlaying* m_sounds = nullptr;
     ScreenLocking* m_lock = nullptr;
-    std::unique_ptr<QQmlEngine> m_engine;
+    WindowEngine m_engine;
     BackgroundImageProvider* m_images = nullptr; // owned by the engine
     QUrl m_imageSource;
     QList<QQuickWindow*> m_windows;

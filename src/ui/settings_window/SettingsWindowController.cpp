@@ -53,7 +53,7 @@ QQmlEngine& SettingsWindowController::engine()
         // Fusion follows the desktop palette, light or dark; a style chosen by the user wins.
         if (qEnvironmentVariableIsEmpty("QT_QUICK_CONTROLS_STYLE") && QQuickStyle::name().isEmpty())
             QQuickStyle::setStyle(u"Fusion"_s);
-        m_engine = std::make_unique<QQmlEngine>();
+        m_engine = makeWindowEngine();
         // The module lives in the resources under Velto/Settings.
         m_engine->addImportPath(u"qrc:/"_s);
         m_engine->addImageProvider(u"veltoappicon"_s, new ApplicationIconProvider(m_collaborators.applications));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FreedMemory.h"
 #include "VeltoWindows.h"
 #include "scheduling/BreakManager.h"
 
@@ -48,7 +49,7 @@ private:
 
     Collaborators m_collaborators;
     QPointer<BreakManager> m_breakManager;
-    std::unique_ptr<QQmlEngine> m_engine;
+    WindowEngine m_engine;
     QPointer<QQuickWindow> m_settingsWindow;
 };
 

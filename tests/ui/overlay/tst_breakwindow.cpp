@@ -3,6 +3,7 @@
 #include "BreakViewModel.h"
 #include "BreakWindow.h"
 #include "DesktopPicture.h"
+#include "FreedMemory.h"
 #include "OffscreenScreens.h"
 #include "PseudoTranslator.h"
 
@@ -238,8 +239,8 @@ private Q_SLOTS:
     // GNOME's Cantarell draws a narrow 1, as many interface fonts do; the countdown's digits still hold still.
     void countdownDigitsKeepTheirWidth()
     {
-        QQmlEngine engine;
-        QQmlComponent component(&engine);
+        const WindowEngine engine = makeWindowEngine();
+        QQmlComponent component(engine.get());
         component.setData(
             "import QtQuick\n"
             "Item {\n"
@@ -270,8 +271,8 @@ private Q_SLOTS:
     // travel and never more than 20 a second; the first value shows at once.
     void theRingGlidesInPacedSteps()
     {
-        QQmlEngine engine;
-        QQmlComponent component(&engine);
+        const WindowEngine engine = makeWindowEngine();
+        QQmlComponent component(engine.get());
         component.setData("import QtQuick\nRingProgress { progress: 0.5 }\n",
                           QUrl(u"qrc:/Velto/Overlay/overlay/Probe.qml"_s));
         std::unique_ptr<QObject> ring(component.create());
