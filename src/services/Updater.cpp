@@ -1,11 +1,7 @@
 #include "Updater.h"
 
+#include "FeedAddress.h"
 #include "settings/UserDefaultsStore.h"
-
-#include <QHostAddress>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 
 #include <limits>
 #include <utility>
@@ -28,19 +24,14 @@ Updater::Updater(UpdaterConfiguration configuration, UserDefaultsStore* store, C
     , m_configuration(std::move(configuration))
     , m_store(store)
     , m_clock(clock ? std::move(clock) : Clock([] { return QDateTime::currentDateTimeUtc(); }))
-    , m_network(new QNetworkAccessManager(this))
+    , m_download(m_configuration.fetchProgram)
 {
-    m_timeoutTimer.setSingleShot(true);
-    connect(&m_timeoutTimer, &QTimer::timeout, this,
-            [this] { fail(UpdaterErrors::TimedOut, tr("The update server did not answer in time.")); });
+    connect(&m_download, &SmallDownload::finished, this, &Updater::onFetched);
     m_scheduleTimer.setSingleShot(true);
     connect(&m_scheduleTimer, &QTimer::timeout, this, &Updater::onScheduleTimer);
 }
 
-Updater::~Updater()
-{
-    releaseReply();
-}
+Updater::~Updater() = default;
 
 void Updater::setUserDriver(std::unique_ptr<UpdateUserDriver> driver)
 {
@@ -49,15 +40,7 @@ void Updater::setUserDriver(std::unique_ptr<UpdateUserDriver> driver)
 
 bool Updater::isAllowedFeedUrl(const QUrl& url)
 {
-    if (!url.isValid() || url.host().isEmpty())
-        return false;
-    const QString scheme = url.scheme().toLower();
-    if (scheme == u"https")
-        return true;
-    if (scheme != u"http")
-        return false;
-    const QString host = url.host().toLower();
-    return host == u"localhost" || QHostAddress(host).isLoopback();
+    return velto::isAllowedFeedUrl(url);
 }
 
 bool Updater::start()
@@ -95,91 +78,54 @@ void Updater::checkForUpdatesInBackground()
 
 void Updater::beginCheck(bool userInitiated)
 {
-    if (m_reply) {
+    if (m_download.isRunning()) {
         // The running check answers the user too.
         m_userInitiated = m_userInitiated || userInitiated;
         return;
     }
     m_userInitiated = userInitiated;
-    m_body.clear();
     if (!isAllowedFeedUrl(m_configuration.feedUrl)) {
         // Report on the next turn, like every other outcome, so callers never see re-entrant callbacks.
         QTimer::singleShot(0, this, [this] {
-            if (!m_reply)
+            if (!m_download.isRunning())
                 fail(UpdaterErrors::FeedInsecure, tr("The update feed address is not secure."));
         });
         return;
     }
-
-    QNetworkRequest request(m_configuration.feedUrl);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(5);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setHeader(QNetworkRequest::UserAgentHeader, QString(u"Velto/"_s + m_configuration.hostVersion));
-
-    m_reply = m_network->get(request);
-    QNetworkReply* reply = m_reply;
-    connect(reply, &QNetworkReply::redirected, this, [this, reply](const QUrl& target) {
-        if (isAllowedFeedUrl(target))
-            Q_EMIT reply->redirectAllowed();
-        else
-            fail(UpdaterErrors::FeedInsecure, tr("The update feed was redirected to an address that is not secure."));
-    });
-    connect(reply, &QNetworkReply::metaDataChanged, this, [this, reply] {
-        const QVariant length = reply->header(QNetworkRequest::ContentLengthHeader);
-        if (length.isValid() && length.toLongLong() > m_configuration.maxFeedBytes)
-            fail(UpdaterErrors::FeedTooLarge, tr("The update feed is too large."));
-    });
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
-        m_body += reply->readAll();
-        if (m_body.size() > m_configuration.maxFeedBytes)
-            fail(UpdaterErrors::FeedTooLarge, tr("The update feed is too large."));
-    });
-    connect(reply, &QNetworkReply::finished, this, &Updater::onFinished);
-    m_timeoutTimer.start(m_configuration.timeout);
+    m_download.start({m_configuration.feedUrl, m_configuration.maxFeedBytes,
+                      std::chrono::duration_cast<std::chrono::milliseconds>(m_configuration.timeout),
+                      u"Velto/"_s + m_configuration.hostVersion});
 }
 
-void Updater::releaseReply()
+void Updater::onFetched(const SmallDownload::Result& result)
 {
-    m_timeoutTimer.stop();
-    QNetworkReply* reply = m_reply;
-    m_reply = nullptr;
-    if (!reply)
+    using Outcome = SmallDownload::Outcome;
+    switch (result.outcome) {
+    case Outcome::Fetched:
+        evaluate(result.body);
         return;
-    reply->disconnect(this);
-    reply->abort();
-    reply->deleteLater();
-}
-
-void Updater::onFinished()
-{
-    QNetworkReply* reply = m_reply;
-    if (!reply)
+    case Outcome::Insecure:
+        fail(UpdaterErrors::FeedInsecure, tr("The update feed was redirected to an address that is not secure."));
         return;
-    m_body += reply->readAll();
-    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    const auto networkError = reply->error();
-    const QString errorText = reply->errorString();
-    releaseReply();
-
-    if (m_body.size() > m_configuration.maxFeedBytes) {
+    case Outcome::TooLarge:
         fail(UpdaterErrors::FeedTooLarge, tr("The update feed is too large."));
         return;
-    }
-    if (networkError != QNetworkReply::NoError || status < 200 || status > 299) {
-        fail(UpdaterErrors::FeedUnreachable, networkError != QNetworkReply::NoError
-                                                 ? errorText
-                                                 //: %1 is the HTTP status number, such as 404.
-                                                 : tr("The update server answered with status %1.").arg(status));
+    case Outcome::TimedOut:
+        fail(UpdaterErrors::TimedOut, tr("The update server did not answer in time."));
+        return;
+    case Outcome::Unreachable:
+        fail(UpdaterErrors::FeedUnreachable,
+             result.httpStatus != 0
+                 //: %1 is the HTTP status number, such as 404.
+                 ? tr("The update server answered with status %1.").arg(result.httpStatus)
+                 : result.failureText);
         return;
     }
-    evaluate(std::exchange(m_body, {}));
 }
 
 void Updater::fail(int code, const QString& description)
 {
-    releaseReply();
-    m_body.clear();
+    m_download.abort();
     const UpdateError error = makeError(code, description);
     m_lastOutcomeText = description;
     m_lastCheckFailed = true;

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "Appcast.h"
+#include "SmallDownload.h"
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QNetworkReply>
 #include <QObject>
-#include <QPointer>
 #include <QTimer>
 #include <QUrl>
 #include <QVariantMap>
@@ -14,8 +13,6 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-
-class QNetworkAccessManager;
 
 namespace velto {
 
@@ -88,6 +85,8 @@ struct UpdaterConfiguration {
     qint64 maxFeedBytes = 1024 * 1024;
     std::chrono::seconds checkInterval = std::chrono::hours(24);
     std::chrono::seconds firstCheckDelay = std::chrono::minutes(3);
+    // velto-fetch; empty: the one installed with Velto.
+    QString fetchProgram;
 };
 
 // Checks the appcast for a newer release: when asked by the user, when asked silently, and once a day on its
@@ -116,7 +115,7 @@ public:
     Q_INVOKABLE void checkForUpdates();
     Q_INVOKABLE void checkForUpdatesInBackground();
 
-    [[nodiscard]] bool sessionInProgress() const { return m_reply != nullptr; }
+    [[nodiscard]] bool sessionInProgress() const { return m_download.isRunning(); }
     // The last finished check in one line, as the About pane's check would tell it, and whether the check
     // itself failed (no answer, a bad feed) rather than finding nothing newer.
     [[nodiscard]] QString lastOutcomeText() const { return m_lastOutcomeText; }
@@ -135,7 +134,7 @@ Q_SIGNALS:
 
 private:
     void beginCheck(bool userInitiated);
-    void onFinished();
+    void onFetched(const SmallDownload::Result& result);
     void fail(int code, const QString& description);
     void evaluate(const QByteArray& body);
     void conclude();
@@ -144,7 +143,6 @@ private:
     void handleChoice(UpdateChoice choice, const AppcastItem& item);
     void scheduleNext();
     void onScheduleTimer();
-    void releaseReply();
 
     UpdaterConfiguration m_configuration;
     UserDefaultsStore* m_store = nullptr;
@@ -152,14 +150,11 @@ private:
     UpdaterDelegate* m_delegate = nullptr;
     std::unique_ptr<UpdateUserDriver> m_userDriver;
     UrlOpener m_onOpenUrl;
-    QNetworkAccessManager* m_network = nullptr;
-    QPointer<QNetworkReply> m_reply;
-    QByteArray m_body;
+    SmallDownload m_download;
     QString m_lastOutcomeText;
     bool m_lastCheckFailed = false;
     bool m_userInitiated = false;
     bool m_started = false;
-    QTimer m_timeoutTimer;
     QTimer m_scheduleTimer;
     QDateTime m_nextScheduledCheck;
 };

@@ -112,6 +112,7 @@ class TestUpdater : public QObject {
             configuration.systemVersion = u"6.1"_s;
             configuration.timeout = timeout;
             configuration.maxFeedBytes = 64 * 1024;
+            configuration.fetchProgram = QStringLiteral(VELTO_FETCH_PROGRAM);
             rebuild(configuration);
         }
         // A fresh updater on the same store and model, as after a restart.
@@ -256,7 +257,9 @@ private Q_SLOTS:
         const QList<std::pair<QString, bool>> urls{
             {u"https://velto.app/appcast.xml"_s, true},   {u"http://127.0.0.1:8080/a.xml"_s, true},
             {u"http://[::1]:8080/a.xml"_s, true},         {u"http://velto.app/appcast.xml"_s, false},
-            {u"http://192.168.1.2/appcast.xml"_s, false}, {u"ftp://velto.app/appcast.xml"_s, false}};
+            {u"http://192.168.1.2/appcast.xml"_s, false}, {u"ftp://velto.app/appcast.xml"_s, false},
+            {u"http://127.9.9.9/a.xml"_s, true},          {u"http://[::ffff:127.0.0.1]/a.xml"_s, true},
+            {u"http://localhost/a.xml"_s, true},          {u"http://[::2]/a.xml"_s, false}};
         for (const auto& [url, allowed] : urls)
             QVERIFY2(Updater::isAllowedFeedUrl(QUrl(url)) == allowed, qPrintable(url));
         const UpdaterConfiguration shipped = defaultUpdaterConfiguration(u"1.0"_s);
@@ -412,6 +415,7 @@ private Q_SLOTS:
         UpdaterConfiguration configuration;
         configuration.feedUrl = m_server.url(u"/two-newer.xml"_s);
         configuration.hostVersion = u"1.0"_s;
+        configuration.fetchProgram = QStringLiteral(VELTO_FETCH_PROGRAM);
         {
             StandardUpdaterController controller(configuration, &store, &model, {}, [now] { return now; });
             QCOMPARE(model.updater(), controller.updater());

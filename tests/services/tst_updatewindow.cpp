@@ -71,7 +71,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, button);
         QFETCH(UpdateChoice, choice);
-        UpdateWindowDriver driver(u"1.0"_s);
+        UpdateWindowDriver driver(u"1.0"_s, 512 * 1024, std::chrono::seconds(30), QStringLiteral(VELTO_FETCH_PROGRAM));
         QList<UpdateChoice> answers;
         driver.showUpdateFound(releaseWithNotes(QUrl()), [&](UpdateChoice c) { answers.append(c); });
         QPointer<QDialog> window = driver.currentWindow();
@@ -93,7 +93,7 @@ private Q_SLOTS:
     // Release notes linked from the feed are fetched and shown; a failure says so instead.
     void showsReleaseNotes()
     {
-        UpdateWindowDriver driver(u"1.0"_s);
+        UpdateWindowDriver driver(u"1.0"_s, 512 * 1024, std::chrono::seconds(30), QStringLiteral(VELTO_FETCH_PROGRAM));
         driver.showUpdateFound(releaseWithNotes(m_server.url(u"/notes.html"_s)), [](UpdateChoice) {});
         auto* notes = driver.currentWindow()->findChild<QTextBrowser*>(u"releaseNotes"_s);
         QVERIFY(notes);
@@ -115,7 +115,7 @@ private Q_SLOTS:
     void releaseNotesFailures()
     {
         QFETCH(QString, path);
-        UpdateWindowDriver driver(u"1.0"_s, 16 * 1024);
+        UpdateWindowDriver driver(u"1.0"_s, 16 * 1024, std::chrono::seconds(30), QStringLiteral(VELTO_FETCH_PROGRAM));
         driver.showUpdateFound(releaseWithNotes(m_server.url(path)), [](UpdateChoice) {});
         auto* notes = driver.currentWindow()->findChild<QTextBrowser*>(u"releaseNotes"_s);
         QVERIFY(notes);
@@ -125,7 +125,7 @@ private Q_SLOTS:
     // Up to date and failures get a message window; a newer answer replaces the window before it.
     void messagesReplaceTheWindow()
     {
-        UpdateWindowDriver driver(u"1.0"_s);
+        UpdateWindowDriver driver(u"1.0"_s, 512 * 1024, std::chrono::seconds(30), QStringLiteral(VELTO_FETCH_PROGRAM));
         QList<UpdateChoice> answers;
         driver.showUpdateFound(releaseWithNotes(QUrl()), [&](UpdateChoice c) { answers.append(c); });
         QPointer<QDialog> found = driver.currentWindow();

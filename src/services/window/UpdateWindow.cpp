@@ -3,8 +3,6 @@
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -107,11 +105,12 @@ UpdateMessageDialog::UpdateMessageDialog(const QString& headline, const QString&
     layout->addWidget(buttons);
 }
 
-UpdateWindowDriver::UpdateWindowDriver(QString hostVersion, qint64 maxNotesBytes, std::chrono::milliseconds timeout)
+UpdateWindowDriver::UpdateWindowDriver(QString hostVersion, qint64 maxNotesBytes, std::chrono::milliseconds timeout,
+                                       QString fetchProgram)
     : m_hostVersion(std::move(hostVersion))
     , m_maxNotesBytes(maxNotesBytes)
     , m_timeout(timeout)
-    , m_network(std::make_unique<QNetworkAccessManager>())
+    , m_fetchProgram(std::move(fetchProgram))
 {}
 
 UpdateWindowDriver::~UpdateWindowDriver()
@@ -162,45 +161,21 @@ void UpdateWindowDriver::showUpdaterError(const UpdateError& error)
 
 void UpdateWindowDriver::fetchReleaseNotes(const QUrl& url, UpdateFoundDialog* dialog)
 {
-    QPointer<UpdateFoundDialog> target(dialog);
     if (!Updater::isAllowedFeedUrl(url)) {
         dialog->showReleaseNotesUnavailable();
         return;
     }
-    QNetworkRequest request(url);
-    request.setTransferTimeout(int(m_timeout.count()));
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(5);
-    QNetworkReply* reply = m_network->get(request);
-    QObject::connect(reply, &QNetworkReply::redirected, reply, [reply](const QUrl& destination) {
-        if (Updater::isAllowedFeedUrl(destination))
-            Q_EMIT reply->redirectAllowed();
-        else
-            reply->abort();
-    });
-    // The reply lives with the dialog: closing the window ends the download.
-    reply->setParent(dialog);
-    const qint64 limit = m_maxNotesBytes;
-    QObject::connect(reply, &QNetworkReply::downloadProgress, reply, [reply, limit](qint64 received, qint64 total) {
-        if (received > limit || total > limit)
-            reply->abort();
-    });
-    QObject::connect(reply, &QNetworkReply::finished, reply, [reply, target, limit] {
-        reply->deleteLater();
-        if (!target)
-            return;
-        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        if (reply->error() != QNetworkReply::NoError || status < 200 || status > 299) {
-            target->showReleaseNotesUnavailable();
-            return;
-        }
-        const QByteArray body = reply->read(limit + 1);
-        if (body.size() > limit) {
-            target->showReleaseNotesUnavailable();
-            return;
-        }
-        target->showReleaseNotes(QString::fromUtf8(body));
-    });
+    // The download lives with the dialog: closing the window ends it.
+    auto* download = new SmallDownload(m_fetchProgram, dialog);
+    QObject::connect(download, &SmallDownload::finished, dialog,
+                     [dialog, download](const SmallDownload::Result& result) {
+                         download->deleteLater();
+                         if (result.outcome == SmallDownload::Outcome::Fetched)
+                             dialog->showReleaseNotes(QString::fromUtf8(result.body));
+                         else
+                             dialog->showReleaseNotesUnavailable();
+                     });
+    download->start({url, m_maxNotesBytes, m_timeout, u"Velto/"_s + m_hostVersion});
 }
 
 } // namespace velto

@@ -8,7 +8,6 @@
 #include <functional>
 
 class QLabel;
-class QNetworkAccessManager;
 class QTextBrowser;
 
 namespace velto {
@@ -46,8 +45,10 @@ public:
 // the feed (HTTPS or this machine, size limit, time-out).
 class UpdateWindowDriver final : public UpdateUserDriver {
 public:
+    // `fetchProgram`: velto-fetch; empty, the one installed with Velto.
     explicit UpdateWindowDriver(QString hostVersion, qint64 maxNotesBytes = 512 * 1024,
-                                std::chrono::milliseconds timeout = std::chrono::seconds(30));
+                                std::chrono::milliseconds timeout = std::chrono::seconds(30),
+                                QString fetchProgram = {});
     ~UpdateWindowDriver() override;
 
     void showUpdateFound(const AppcastItem& item, std::function<void(UpdateChoice)> reply) override;
@@ -64,7 +65,7 @@ private:
     QString m_hostVersion;
     qint64 m_maxNotesBytes;
     std::chrono::milliseconds m_timeout;
-    std::unique_ptr<QNetworkAccessManager> m_network;
+    QString m_fetchProgram;
     QPointer<QDialog> m_window;
 };
 
