@@ -554,7 +554,7 @@
     <message>
         <source>--days must be a whole number from 1 to %1, not &apos;%2&apos;</source>
         <extracomment>%1: the largest number allowed; %2: what was given instead.</extracomment>
-        <translation>--days doit être un nombre entier de 1 à %1, et non « %2 »</translation>
+        <translation>--days doit être un nombre entier de 1 à %1, et non «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>MINUTES must be a whole number from 1 to %1, not &apos;%2&apos;</source>
@@ -587,7 +587,7 @@
     </message>
     <message>
         <source>Commands that work with or without a running Velto:</source>
-        <translation>Commandes qui fonctionnent avec ou sans Velto en cours d’exécution :</translation>
+        <translation>Commandes qui fonctionnent avec ou sans Velto en cours d’exécution&#x202f;:</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -1918,6 +1918,13 @@ When a focus app being added holds breaks: while it runs.</extracomment>
             <numerusform>%n&#xa0;min avant</numerusform>
             <numerusform>%n&#xa0;min avant</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>velto::SmallDownload</name>
+    <message>
+        <source>Velto&apos;s download helper could not be started (%1).</source>
+        <translation>Velto n’a pas pu lancer son programme de téléchargement (%1).</translation>
     </message>
 </context>
 <context>

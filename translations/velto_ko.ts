@@ -1905,6 +1905,13 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
+    <name>velto::SmallDownload</name>
+    <message>
+        <source>Velto&apos;s download helper could not be started (%1).</source>
+        <translation>Velto의 다운로드 도우미 프로그램을 시작할 수 없습니다(%1).</translation>
+    </message>
+</context>
+<context>
     <name>velto::SystemGnomeExtension</name>
     <message>
         <source>GNOME Shell&apos;s settings cannot be read here</source>

@@ -1921,6 +1921,13 @@ When a focus app being added holds breaks: while it runs.</extracomment>
     </message>
 </context>
 <context>
+    <name>velto::SmallDownload</name>
+    <message>
+        <source>Velto&apos;s download helper could not be started (%1).</source>
+        <translation>Velto kon zijn downloadhulpprogramma niet starten (%1).</translation>
+    </message>
+</context>
+<context>
     <name>velto::SystemGnomeExtension</name>
     <message>
         <source>GNOME Shell&apos;s settings cannot be read here</source>
