@@ -46,7 +46,6 @@ int main(int argc, char* argv[])
     request.setMaximumRedirectsAllowed(5);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     request.setHeader(QNetworkRequest::UserAgentHeader, arguments.value(4));
-    request.setTransferTimeout(timeout);
     QNetworkReply* reply = network.get(request);
 
     int exitCode = fetch::Fetched;
@@ -91,7 +90,9 @@ int main(int argc, char* argv[])
             QCoreApplication::exit(std::fflush(stdout) == 0 ? fetch::Fetched : fetch::Unreachable);
         }
     });
-    // A helper whose Velto has gone never lingers.
-    QTimer::singleShot(timeout * 2, &application, [] { QCoreApplication::exit(fetch::Unreachable); });
+    // Velto ends the helper when its time is up and reports the time-out itself; this is for a helper whose Velto
+    // has gone, so that it never lingers.
+    QTimer::singleShot(std::chrono::milliseconds(timeout) * 2, &application,
+                       [] { QCoreApplication::exit(fetch::Unreachable); });
     return QCoreApplication::exec();
 }
