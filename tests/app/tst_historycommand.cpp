@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTextStream>
 #include <QTimeZone>
+#include <QTranslator>
 
 using namespace velto;
 using namespace Qt::Literals::StringLiterals;
@@ -101,6 +102,20 @@ private Q_SLOTS:
         QVERIFY2(lines.at(1).contains(u"2026-11-25"_s) && lines.at(1).simplified().endsWith(u"0 0 0 1:02 0:25 0:30"_s),
                  qPrintable(lines.at(1)));
         QCOMPARE(HistoryCommand::eventsText({}), u"No events recorded in these days.\n"_s);
+
+        // A title in double-width characters (Japanese here) takes two columns a character: over the fourteen
+        // columns of "Wed 2026-11-25", "日付" is padded by ten, not twelve.
+        struct Japanese final : QTranslator {
+            QString translate(const char*, const char* source, const char*, int) const override
+            {
+                return qstrcmp(source, "Day") == 0 ? u"日付"_s : QString();
+            }
+        } japanese;
+        QCoreApplication::installTranslator(&japanese);
+        const QStringList wide = history.run({u"--days"_s, u"1"_s}).split(u'\n', Qt::SkipEmptyParts);
+        QCoreApplication::removeTranslator(&japanese);
+        QVERIFY2(wide.at(0).startsWith(u"日付"_s + QString(10 + 2, u' ') + u"Taken"_s), qPrintable(wide.at(0)));
+        QVERIFY2(wide.at(1).startsWith(u"Wed 2026-11-25  "_s), qPrintable(wide.at(1)));
     }
 };
 

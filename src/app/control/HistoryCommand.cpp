@@ -13,6 +13,8 @@
 #include <QTimeZone>
 
 #include <cmath>
+#include <cwchar>
+#include <locale.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -119,20 +121,37 @@ QString json(const QString& name, const QList<Row>& rows, const QList<Column>& c
     return QString::fromUtf8(QJsonDocument(QJsonObject{{name, array}}).toJson(QJsonDocument::Compact)) + u'\n';
 }
 
+// How many terminal columns the text takes: Chinese, Japanese and Korean characters take two, combining
+// marks none. Asked of the C library's UTF-8 character tables, whatever the user's own locale.
+qsizetype displayWidth(const QString& text)
+{
+    static const locale_t utf8 = newlocale(LC_CTYPE_MASK, "C.UTF-8", locale_t(nullptr));
+    const locale_t previous = utf8 ? uselocale(utf8) : locale_t(nullptr);
+    qsizetype width = 0;
+    for (const char32_t c : text.toUcs4()) {
+        const int columns = wcwidth(wchar_t(c));
+        width += columns < 0 ? 1 : columns;
+    }
+    if (utf8)
+        uselocale(previous);
+    return width;
+}
+
 // Figures line up on the right, words on the left.
 QString table(const QStringList& header, const QList<QStringList>& rows, const QList<bool>& rightAligned)
 {
     QList<qsizetype> widths;
     for (const QString& title : header)
-        widths << title.size();
+        widths << displayWidth(title);
     for (const QStringList& row : rows) {
         for (qsizetype i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], row[i].size());
+            widths[i] = std::max(widths[i], displayWidth(row[i]));
     }
     auto line = [&](const QStringList& cells) -> QString {
         QString text;
         for (qsizetype i = 0; i < cells.size(); ++i) {
-            text += rightAligned.value(i) ? cells[i].rightJustified(widths[i]) : cells[i].leftJustified(widths[i]);
+            const QString padding(widths[i] - displayWidth(cells[i]), u' ');
+            text += rightAligned.value(i) ? padding + cells[i] : cells[i] + padding;
             if (i + 1 < cells.size())
                 text += u"  "_s;
         }
