@@ -13,8 +13,8 @@ namespace velto {
 
 namespace {
 int liveEngines = 0;
-// Whether an engine was made since the registrations were last let go: a second clearing would cost a walk of the
-// heap for nothing.
+// Whether an engine was made since the registrations were last let go: clearing again would only build and tear
+// down the sweeping engine for nothing.
 bool registrationsHeld = false;
 
 void letGoOfQmlTypes()
